@@ -1,0 +1,60 @@
+#pragma once
+// The event loop and its clock. The program runs on Qt's loop with the real clock; tests and scripts
+// run on a virtual loop whose clock moves only when told (advance), so timers fire in time order,
+// exactly and at once.
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace qp {
+
+class Timer;
+
+class EventLoop {
+ public:
+  virtual ~EventLoop() = default;
+  // Milliseconds since the loop began.
+  virtual std::int64_t now() const = 0;
+  // DoEvents: lets waiting events and due timers run, then returns.
+  virtual void processEvents() = 0;
+  // Called by a Timer when its Enabled or Interval changes (and when it goes away).
+  virtual void timerChanged(Timer* t) = 0;
+  virtual void timerDestroyed(Timer* t) = 0;
+  // Queues work to run on the loop after the present event.
+  virtual void post(std::function<void()> fn) = 0;
+};
+
+// Timers fire in order of due time; a timer's next due time is counted from when it fired, as a
+// real timer's would be. A tick never interrupts a running handler.
+class VirtualLoop : public EventLoop {
+ public:
+  VirtualLoop();
+  ~VirtualLoop() override;
+  std::int64_t now() const override { return now_; }
+  void processEvents() override;
+  void timerChanged(Timer* t) override;
+  void timerDestroyed(Timer* t) override;
+  void post(std::function<void()> fn) override;
+
+  // Moves the clock by ms, running every timer tick and posted task that falls due on the way.
+  void advance(std::int64_t ms);
+  // Runs posted tasks only.
+  void runPosted();
+
+ private:
+  struct Entry {
+    Timer* timer;
+    std::int64_t due;
+    std::uint64_t generation;
+  };
+  bool fireNextDue(std::int64_t until);
+  std::int64_t now_ = 0;
+  std::vector<Entry> entries_;
+  std::vector<std::function<void()>> posted_;
+  std::vector<Timer*> busy_;  // timers whose handler is running now
+  std::uint64_t generation_ = 0;
+  int depth_ = 0;  // nesting of DoEvents inside a tick
+};
+
+}  // namespace qp
