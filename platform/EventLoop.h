@@ -41,6 +41,9 @@ class VirtualLoop : public EventLoop {
   void advance(std::int64_t ms);
   // Runs posted tasks only.
   void runPosted();
+  // How long one DoEvents takes on the virtual clock. Not zero by default, so that a loop that
+  // waits with DoEvents until the clock passes a mark comes to its end, as it does on a real clock.
+  void setDoEventsStep(std::int64_t ms) { doEventsStep_ = ms < 0 ? 0 : ms; }
 
  private:
   struct Entry {
@@ -55,6 +58,7 @@ class VirtualLoop : public EventLoop {
   std::vector<Timer*> busy_;  // timers whose handler is running now
   std::uint64_t generation_ = 0;
   int depth_ = 0;  // nesting of DoEvents inside a tick
+  std::int64_t doEventsStep_ = 1;
 };
 
 }  // namespace qp

@@ -1,0 +1,291 @@
+// The controls' own rules, driven through their properties and user actions.
+#include <gtest/gtest.h>
+
+#include "platform/ControlArray.h"
+#include "platform/Controls.h"
+#include "platform/Form.h"
+#include "platform/Headless.h"
+
+using namespace qp;
+
+namespace {
+
+struct Panel : Form {
+  explicit Panel(Runtime& rt) : Form(rt, "frmPanel") {}
+  VScrollBar vVal1{this, nullptr, "vVal1"};
+  Label lHelp{this, nullptr, "lHelp"};
+  Frame fOpts{this, nullptr, "fOpts"};
+  CheckBox ckVal{this, nullptr, "ckVal"};
+  ControlArray<OptionButton> opVert;
+  ControlArray<OptionButton> opOther;  // in another container
+  ListBox lstFont{this, nullptr, "lstFont"};
+  TextBox tName{this, nullptr, "tName"};
+  Menu mnuEdit{this, nullptr, "mnuEdit", "&Edit"};
+  Menu mnuPaste{this, &mnuEdit, "mnuPaste", "&Paste"};
+  ControlArray<Shape> Shadow;
+};
+
+struct ControlsTest : ::testing::Test {
+  HeadlessRuntime h;
+  Panel f{h.rt()};
+  int changes = 0, scrolls = 0, clicks = 0;
+};
+
+TEST_F(ControlsTest, ScrollBarWithMinAboveMaxCountsUpwardFromTheTopArrow) {
+  auto& v = f.vVal1;
+  v.Min = 120;
+  v.Max = 8;
+  v.Value = 24;
+  v.SmallChange = 2;
+  v.LargeChange = 10;
+  v.Change = [&] { ++changes; };
+  v.arrowUp();
+  EXPECT_EQ(v.Value, 26);
+  v.pageUp();
+  EXPECT_EQ(v.Value, 36);
+  v.arrowDown();
+  EXPECT_EQ(v.Value, 34);
+  v.pageDown();
+  EXPECT_EQ(v.Value, 24);
+  EXPECT_EQ(changes, 4);
+  // At the end of the range the arrow stops there and reports nothing more.
+  v.Value = 119;
+  v.pageUp();
+  EXPECT_EQ(v.Value, 120);
+  changes = 0;
+  v.arrowUp();
+  EXPECT_EQ(v.Value, 120);
+  EXPECT_EQ(changes, 0);
+}
+
+TEST_F(ControlsTest, ScrollBarChangeOnlyOnRealChange) {
+  auto& v = f.vVal1;
+  v.Max = 100;
+  v.Change = [&] { ++changes; };
+  v.Value = 10;
+  v.Value = 10;
+  EXPECT_EQ(changes, 1);
+  // A handler may read the value it was told about.
+  int seen = -1;
+  v.Change = [&] { seen = v.Value; };
+  v.arrowDown();
+  EXPECT_EQ(seen, 11);
+}
+
+TEST_F(ControlsTest, ScrollBarRefusesValueOutsideItsRangeAndKeepsTheOld) {
+  auto& v = f.vVal1;
+  v.Min = 90;
+  v.Max = 10;
+  v.Value = 50;
+  v.Change = [&] { ++changes; };
+  try {
+    v.Value = 91;
+    FAIL() << "a value past Min was taken";
+  } catch (const RuntimeError& e) {
+    EXPECT_EQ(e.code(), RuntimeError::InvalidPropertyValue);
+  }
+  EXPECT_FALSE(trap([&] { v.Value = 5; }));
+  EXPECT_EQ(v.Value, 50);
+  EXPECT_EQ(changes, 0);
+  EXPECT_TRUE(trap([&] { v.Value = 90; }));
+  EXPECT_EQ(v.Value, 90);
+}
+
+TEST_F(ControlsTest, ScrollBarNewRangePullsValueInside) {
+  auto& v = f.vVal1;
+  v.Max = 500;
+  v.Value = 400;
+  v.Change = [&] { ++changes; };
+  v.Max = 300;
+  EXPECT_EQ(v.Value, 300);
+  EXPECT_EQ(changes, 1);
+  v.Min = 350;  // Min now above Max: the range is 300..350
+  EXPECT_EQ(v.Value, 300);
+  EXPECT_EQ(changes, 1);
+  v.Max = 360;
+  EXPECT_EQ(v.Value, 350);
+  EXPECT_EQ(changes, 2);
+}
+
+TEST_F(ControlsTest, ScrollBarDragRaisesScrollThenChange) {
+  auto& v = f.vVal1;
+  v.Max = 100;
+  std::vector<std::pair<char, int>> order;
+  v.Scroll = [&] { order.push_back({'S', v.Value}); };
+  v.Change = [&] { order.push_back({'C', v.Value}); };
+  v.dragTo(40);
+  v.dragTo(40);    // a drag that ends where it began: only Scroll
+  v.dragTo(1000);  // the thumb stops at the end
+  std::vector<std::pair<char, int>> want{{'S', 40}, {'C', 40}, {'S', 40}, {'S', 100}, {'C', 100}};
+  EXPECT_EQ(order, want);
+}
+
+TEST_F(ControlsTest, LabelCaptionRaisesChangeOnEveryWrite) {
+  QStringList seen;
+  f.lHelp.Change = [&] { seen << f.lHelp.Caption; };
+  f.lHelp.Caption = "Pencil";
+  f.lHelp.Caption = "Pencil";
+  f.lHelp.Caption = "";
+  EXPECT_EQ(seen, (QStringList{"Pencil", "Pencil", ""}));
+}
+
+TEST_F(ControlsTest, CheckBoxClickTogglesAndValueWriteRaisesClick) {
+  auto& ck = f.ckVal;
+  std::vector<int> seen;
+  ck.Click = [&] { seen.push_back(ck.Value); };
+  ck.raiseClick();
+  ck.raiseClick();
+  ck.Value = 0;  // no change, no Click
+  ck.Value = 2;
+  ck.raiseClick();  // a grey box becomes checked
+  EXPECT_EQ(seen, (std::vector<int>{1, 0, 2, 1}));
+  EXPECT_FALSE(trap([&] { ck.Value = 3; }));
+  EXPECT_EQ(ck.Value, 1);
+}
+
+TEST_F(ControlsTest, OptionButtonsOfOneContainerExcludeEachOther) {
+  auto& a = f.opVert.add(0, &f, &f.fOpts, "opVert");
+  auto& b = f.opVert.add(1, &f, &f.fOpts, "opVert");
+  auto& other = f.opOther.add(0, &f, nullptr, "opOther");
+  std::vector<int> clicked;
+  a.Click = [&] { clicked.push_back(0); };
+  b.Click = [&] { clicked.push_back(1); };
+  other.Value = true;
+  a.raiseClick();
+  EXPECT_TRUE(a.Value);
+  b.Value = true;
+  EXPECT_FALSE(a.Value);
+  EXPECT_TRUE(b.Value);
+  EXPECT_TRUE(other.Value) << "a button in another container stays on";
+  b.Value = true;  // already on: no second Click
+  EXPECT_EQ(clicked, (std::vector<int>{0, 1}));
+}
+
+TEST_F(ControlsTest, ListIndexRules) {
+  auto& l = f.lstFont;
+  int clicks = 0;
+  l.Click = [&] { ++clicks; };
+  EXPECT_EQ(l.ListIndex, -1);
+  EXPECT_FALSE(trap([&] { l.ListIndex = 0; })) << "an empty list has no entry 0";
+  for (auto s : {"Arial", "Courier", "Times"}) l.AddItem(s);
+  l.ListIndex = 2;
+  l.ListIndex = 2;
+  EXPECT_EQ(clicks, 1);
+  EXPECT_EQ(l.Text(), "Times");
+  EXPECT_FALSE(trap([&] { l.ListIndex = 3; }));
+  EXPECT_FALSE(trap([&] { l.ListIndex = -2; }));
+  EXPECT_EQ(l.ListIndex, 2);
+  l.RemoveItem(0);  // the chosen entry moves up with the list
+  EXPECT_EQ(l.ListIndex, 1);
+  EXPECT_EQ(l.Text(), "Times");
+  l.RemoveItem(1);
+  EXPECT_EQ(l.ListIndex, -1);
+  EXPECT_EQ(l.Text(), "");
+  EXPECT_EQ(l.List(5), "");
+  EXPECT_FALSE(trap([&] { l.RemoveItem(7); }));
+  l.ListIndex = 0;
+  l.Clear();
+  EXPECT_EQ(l.ListCount(), 0);
+  EXPECT_EQ(l.ListIndex, -1);
+}
+
+TEST_F(ControlsTest, TextBoxChangeOnRealChange) {
+  f.tName.Change = [&] { ++changes; };
+  f.tName.Text = "a";
+  f.tName.Text = "a";
+  f.tName.Text = "ab";
+  EXPECT_EQ(changes, 2);
+}
+
+TEST_F(ControlsTest, MenuItemsAndDisabledMenusDoNotClick) {
+  ASSERT_EQ(f.mnuEdit.items().size(), 1u);
+  EXPECT_EQ(f.mnuEdit.items()[0], &f.mnuPaste);
+  EXPECT_EQ(f.mnuPaste.Caption, "&Paste");
+  f.mnuPaste.Click = [&] { ++clicks; };
+  f.mnuPaste.raiseClick();
+  f.mnuPaste.Enabled = false;
+  f.mnuPaste.raiseClick();
+  f.mnuPaste.Enabled = true;
+  f.mnuPaste.Visible = false;
+  f.mnuPaste.raiseClick();
+  EXPECT_EQ(clicks, 1);
+  {
+    Menu extra(&f, &f.mnuEdit, "mnuExtra", "Extra");
+    EXPECT_EQ(f.mnuEdit.items().size(), 2u);
+  }
+  EXPECT_EQ(f.mnuEdit.items().size(), 1u) << "a menu item gone is gone from its menu";
+}
+
+TEST_F(ControlsTest, RegistryFindsControlsByNameAndArrayIndex) {
+  f.Shadow.add(5, &f, nullptr, "Shadow");
+  f.Shadow.add(24, &f, nullptr, "Shadow");
+  EXPECT_EQ(f.find("vVal1"), &f.vVal1);
+  EXPECT_EQ(f.find("Shadow(5)"), &f.Shadow(5));
+  EXPECT_EQ(f.Shadow(24).key(), "Shadow(24)");
+  EXPECT_EQ(f.find("Shadow"), nullptr);
+  EXPECT_EQ(f.Shadow.LBound(), 5);
+  EXPECT_EQ(f.Shadow.UBound(), 24);
+  EXPECT_FALSE(trap([&] { f.Shadow(6).Visible = false; }));
+  {
+    Label temp(&f, nullptr, "lTemp");
+    EXPECT_EQ(f.find("lTemp"), &temp);
+  }
+  EXPECT_EQ(f.find("lTemp"), nullptr);
+}
+
+TEST_F(ControlsTest, PropertyWritesBumpRevisionsForTheView) {
+  const auto rev = f.vVal1.revision();
+  const auto formRev = f.formRevision();
+  f.vVal1.Visible = true;  // same value: nothing to redraw
+  EXPECT_EQ(f.vVal1.revision(), rev);
+  f.vVal1.Left = 300;
+  EXPECT_GT(f.vVal1.revision(), rev);
+  EXPECT_GT(f.formRevision(), formRev);
+  const auto formRev2 = f.formRevision();
+  f.Caption = "Quillora Pro";  // the form's own properties count too
+  EXPECT_GT(f.formRevision(), formRev2);
+  // Reading a property back, comparing and arithmetic work as on the plain value.
+  f.vVal1.Left += 15;
+  EXPECT_EQ(f.vVal1.Left, 315.0f);
+  EXPECT_TRUE(f.vVal1.Left != f.vVal1.Top);
+}
+
+TEST_F(ControlsTest, FormShowLoadsOnceAndResizeFollowsSize) {
+  std::vector<std::string> events;
+  f.Load = [&] { events.push_back("Load"); };
+  f.Resize = [&] { events.push_back("Resize"); };
+  f.Activate = [&] { events.push_back("Activate"); };
+  f.Show();
+  f.Width = 9000;
+  f.Width = 9000;
+  f.Hide();
+  f.Show();
+  EXPECT_EQ(events, (std::vector<std::string>{"Load", "Resize", "Activate", "Resize", "Activate"}));
+  EXPECT_TRUE(f.Visible);
+}
+
+TEST_F(ControlsTest, FocusMovesWithGotAndLostFocus) {
+  std::vector<std::string> events;
+  f.tName.GotFocus = [&] { events.push_back("tName+"); };
+  f.tName.LostFocus = [&] { events.push_back("tName-"); };
+  f.lstFont.GotFocus = [&] { events.push_back("lstFont+"); };
+  f.tName.SetFocus();
+  f.lstFont.SetFocus();
+  EXPECT_TRUE(f.lstFont.hasFocus());
+  EXPECT_EQ(f.ActiveControl(), &f.lstFont);
+  f.tName.Enabled = false;
+  EXPECT_FALSE(trap([&] { f.tName.SetFocus(); }));
+  EXPECT_EQ(events, (std::vector<std::string>{"tName+", "tName-", "lstFont+"}));
+}
+
+TEST_F(ControlsTest, NestedPositionsAddUp) {
+  Frame outer(&f, nullptr, "fOuter");
+  Label inner(&f, &outer, "lInner");
+  outer.Move(100, 200);
+  inner.Move(30, 40, 500, 600);
+  EXPECT_EQ(inner.absLeft(), 130.0f);
+  EXPECT_EQ(inner.absTop(), 240.0f);
+  EXPECT_EQ(inner.Width, 500.0f);
+}
+
+}  // namespace

@@ -1,0 +1,203 @@
+// Timers on the virtual clock: order, rhythm, restarts and DoEvents from inside a tick.
+#include <gtest/gtest.h>
+
+#include "platform/Form.h"
+#include "platform/Headless.h"
+#include "platform/Timer.h"
+
+using namespace qp;
+
+namespace {
+
+struct Timed : Form {
+  explicit Timed(Runtime& rt) : Form(rt, "frmTimed") {}
+  Timer tFast{this, "tFast", 30};
+  Timer tSlow{this, "tSlow", 50};
+};
+
+struct LoopTest : ::testing::Test {
+  HeadlessRuntime h;
+  Timed f{h.rt()};
+  std::vector<std::pair<std::string, std::int64_t>> log;
+  void record(Timer& t) {
+    t.Timer_ = [this, &t] { log.push_back({t.Name().toStdString(), h.loop.now()}); };
+  }
+};
+
+using Log = std::vector<std::pair<std::string, std::int64_t>>;
+
+TEST_F(LoopTest, TimersFireInDueOrderAtTheirOwnTimes) {
+  record(f.tFast);
+  record(f.tSlow);
+  f.tSlow.Enabled = true;
+  f.tFast.Enabled = true;
+  h.loop.advance(100);
+  EXPECT_EQ(log, (Log{{"tFast", 30}, {"tSlow", 50}, {"tFast", 60}, {"tFast", 90}, {"tSlow", 100}}));
+  EXPECT_EQ(h.loop.now(), 100);
+  // Ticks already counted keep their rhythm across several small advances.
+  log.clear();
+  for (int i = 0; i < 4; ++i) h.loop.advance(5);
+  EXPECT_EQ(log, (Log{{"tFast", 120}}));
+}
+
+TEST_F(LoopTest, DisabledOrZeroIntervalTimersNeverFire) {
+  record(f.tFast);
+  h.loop.advance(1000);
+  f.tFast.Interval = 0;
+  f.tFast.Enabled = true;
+  h.loop.advance(1000);
+  EXPECT_TRUE(log.empty());
+  f.tFast.Interval = 200;  // the count starts from the write
+  h.loop.advance(199);
+  EXPECT_TRUE(log.empty());
+  h.loop.advance(1);
+  EXPECT_EQ(log, (Log{{"tFast", 2200}}));
+}
+
+TEST_F(LoopTest, HandlerThatStopsAndRestartsItsTimerCountsFromThen) {
+  int ticks = 0;
+  f.tSlow.Enabled = true;
+  f.tSlow.Timer_ = [&] {
+    ++ticks;
+    f.tSlow.Enabled = false;
+    if (ticks == 1) {
+      h.loop.advance(0);  // harmless: nothing else is due
+      f.tSlow.Interval = 70;
+      f.tSlow.Enabled = true;
+    }
+  };
+  h.loop.advance(50);
+  EXPECT_EQ(ticks, 1);
+  h.loop.advance(69);
+  EXPECT_EQ(ticks, 1);
+  h.loop.advance(1);
+  EXPECT_EQ(ticks, 2);
+  h.loop.advance(1000);
+  EXPECT_EQ(ticks, 2) << "the second tick switched the timer off";
+}
+
+TEST_F(LoopTest, DoEventsInsideATickRunsOthersButNeverTheSameTimer) {
+  record(f.tFast);
+  int depth = 0, maxDepth = 0;
+  f.tFast.Interval = 3;
+  f.tFast.Enabled = true;
+  f.tSlow.Interval = 10;
+  f.tSlow.Enabled = true;
+  f.tSlow.Timer_ = [&] {
+    maxDepth = std::max(maxDepth, ++depth);
+    log.push_back({"slowStart", h.loop.now()});
+    h.loop.post([&] { log.push_back({"posted", h.loop.now()}); });
+    // A long drawing letting the window breathe: each DoEvents lets a little time pass.
+    for (int i = 0; i < 5; ++i) h.loop.processEvents();
+    log.push_back({"slowEnd", h.loop.now()});
+    --depth;
+  };
+  h.loop.advance(10);
+  EXPECT_EQ(maxDepth, 1) << "a timer is never re-entered from its own DoEvents";
+  EXPECT_EQ(log, (Log{{"tFast", 3}, {"tFast", 6}, {"tFast", 9}, {"slowStart", 10}, {"posted", 10},
+                      {"tFast", 12}, {"tFast", 15}, {"slowEnd", 15}}));
+  EXPECT_EQ(h.loop.now(), 15);
+}
+
+TEST_F(LoopTest, WaitingForTheClockWithDoEventsEnds) {
+  // The drawing loops pace themselves by the clock: `while now < mark: DoEvents`.
+  const std::int64_t mark = h.loop.now() + 10;
+  int rounds = 0;
+  while (h.loop.now() < mark && rounds < 1000) {
+    h.loop.processEvents();
+    ++rounds;
+  }
+  EXPECT_EQ(h.loop.now(), mark);
+  EXPECT_EQ(rounds, 10);
+}
+
+TEST_F(LoopTest, EndlessDoEventsInAHandlerEnds) {
+  int runs = 0;
+  std::function<void()> again = [&] {
+    ++runs;
+    h.loop.post(again);
+    h.loop.processEvents();
+  };
+  h.loop.post(again);
+  h.loop.advance(10);
+  EXPECT_GT(runs, 0);
+  EXPECT_LT(runs, 100);
+}
+
+TEST_F(LoopTest, TimerGoneFromTheFormStopsTicking) {
+  int ticks = 0;
+  {
+    Timer temp(&f, "tTemp", 10, true);
+    temp.Timer_ = [&] { ++ticks; };
+    h.loop.advance(25);
+  }
+  h.loop.advance(100);
+  EXPECT_EQ(ticks, 2);
+}
+
+TEST_F(LoopTest, ErrorInATickEndsOnlyThatHandler) {
+  int later = 0;
+  f.tFast.Enabled = true;
+  f.tFast.Timer_ = [&] { raiseError(RuntimeError::Overflow); };
+  f.tSlow.Enabled = true;
+  f.tSlow.Timer_ = [&] { ++later; };
+  EXPECT_NO_THROW(h.loop.advance(100));
+  EXPECT_EQ(later, 2);
+}
+
+TEST(RandomTest, SameSeedSameSequenceWithinZeroToOne) {
+  Random a(7), b(7), c(8);
+  bool differs = false;
+  double sum = 0;
+  for (int i = 0; i < 20000; ++i) {
+    const float x = a.Rnd();
+    EXPECT_EQ(x, b.Rnd());
+    differs |= x != c.Rnd();
+    ASSERT_GE(x, 0.0f);
+    ASSERT_LT(x, 1.0f);
+    sum += x;
+  }
+  EXPECT_TRUE(differs);
+  EXPECT_NEAR(sum / 20000, 0.5, 0.02);
+  a.Randomize(7);
+  Random d(7);
+  EXPECT_EQ(a.Rnd(), d.Rnd());
+}
+
+TEST(RandomTest, CoversTheRangeEvenly) {
+  Random r(12345);
+  int buckets[10] = {};
+  for (int i = 0; i < 50000; ++i) ++buckets[static_cast<int>(r.Rnd() * 10)];
+  for (int n : buckets) EXPECT_NEAR(n, 5000, 400);
+}
+
+TEST(HeadlessTest, MessageBoxesAnswerAndRemember) {
+  HeadlessRuntime h;
+  EXPECT_EQ(h.rt().msgbox.MsgBox("Save first?", vbYesNoCancel, "Quillora Pro"), vbYes);
+  h.msgbox.queueAnswer(vbNo);
+  EXPECT_EQ(h.rt().msgbox.MsgBox("Again?", vbYesNo, "Q"), vbNo);
+  h.msgbox.setDefaultAnswer(vbCancel);
+  EXPECT_EQ(h.rt().msgbox.MsgBox("Third", vbOKCancel, "Q"), vbCancel);
+  ASSERT_EQ(h.msgbox.shown().size(), 3u);
+  EXPECT_EQ(h.msgbox.shown()[0].prompt, "Save first?");
+  EXPECT_EQ(h.msgbox.shown()[0].title, "Quillora Pro");
+
+  EXPECT_FALSE(h.rt().clipboard.hasPicture());
+  QImage img(4, 3, QImage::Format_RGB32);
+  img.fill(Qt::red);
+  h.rt().clipboard.SetData(img);
+  EXPECT_EQ(h.rt().clipboard.GetData(), img);
+  h.rt().clipboard.Clear();
+  EXPECT_TRUE(h.rt().clipboard.GetData().isNull());
+
+  EXPECT_EQ(h.rt().screen.Width(), 1280 * 15);
+  EXPECT_EQ(h.rt().screen.Height(), 1024 * 15);
+  const QStringList fonts = h.rt().screen.Fonts();
+  EXPECT_TRUE(std::is_sorted(fonts.begin(), fonts.end(), [](auto& a, auto& b) {
+    return QString::compare(a, b, Qt::CaseInsensitive) < 0;
+  }));
+  FixedScreen given(800, 600, {"Arial", "Courier New"});
+  EXPECT_EQ(given.FontCount(), 2);
+}
+
+}  // namespace
