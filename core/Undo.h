@@ -1,0 +1,15 @@
+#pragma once
+// Two whole-canvas undo levels kept as pictures on hidden surfaces; no stroke history.
+#include "core/Session.h"
+
+namespace qp {
+
+// Bakes the drawing into the visible surface, makes PicPaint and pPix equal, and keeps the result
+// as the first undo level (the level before it moves to the second).
+void TakeUndoSnapshot(Session& s);
+// Back to the last snapshot; the levels stay, so a second call gives the same picture.
+void UndoOnce(Session& s);
+// Back to the snapshot before that.
+void UndoTwice(Session& s);
+
+}  // namespace qp

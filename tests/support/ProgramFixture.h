@@ -1,0 +1,34 @@
+#pragma once
+// A whole Quillora, headless, on the virtual clock: build it, start it, drive its controls.
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "platform/Headless.h"
+#include "ui/Program.h"
+
+namespace qp::test {
+
+class ProgramTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    program = std::make_unique<Program>(headless.rt());
+    program->start();
+  }
+  frmCanvas& f() { return program->f; }
+  ModQuillora& m() { return program->m; }
+  Session& s() { return program->s; }
+
+  // Pointer actions on the paint area, in twips, through its events.
+  void press(Single x, Single y, int button = vbLeftButton) { f().PicPaint.raiseMouseDown(button, 0, x, y); }
+  void move(Single x, Single y, int button = vbLeftButton) { f().PicPaint.raiseMouseMove(button, 0, x, y); }
+  void release(Single x, Single y, int button = vbLeftButton) { f().PicPaint.raiseMouseUp(button, 0, x, y); }
+  void choose(Menu& item) { item.raiseClick(); }
+  // The pixel of the canvas at a pixel position, as 0xBBGGRR.
+  Colour pixel(int x, int y) { return f().PicPaint.Point(x * 15.0f, y * 15.0f); }
+
+  HeadlessRuntime headless;
+  std::unique_ptr<Program> program;
+};
+
+}  // namespace qp::test

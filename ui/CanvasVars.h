@@ -1,0 +1,33 @@
+#pragma once
+// Variables of the main window that more than one routine reads, with their start values.
+#include <QVariant>
+
+#include "platform/Numeric.h"
+
+namespace qp {
+
+struct CanvasVars {
+  Integer CtrlDown = 0;        // -1 while Ctrl is held
+  Byte PriorMode = 0;          // the paint mode when ApplyPaintMode last ran
+  Byte PointerShape = 2;       // 2 cross, 1 arrow
+  Byte PanelRows = 0;          // height class of the control panel
+  Integer PanelHeight = 2040;  // height of the control panel in twips
+  Byte SwatchKey = 0;          // colour index of the last colour key
+  Byte GradStepSize = 2;
+  Byte BrushFigure = 0;
+  Byte CrazyEquation = 1;
+  Integer AirSpread = 5;
+  Integer AutoDrawX = 500, AutoDrawY = 500;
+  Integer AutoDrawSpeed = 4;
+  Integer CanvasLocked = 0;
+  Integer TransparencySelect = 0;
+  Long ShadowOffsetX = 0, ShadowOffsetY = 0;
+
+  // The stroke's positions. PointerX keeps its fraction; PointerY is rounded to whole twips.
+  Single PointerX = 0;
+  Integer PointerY = 0;
+  Integer DownX = 0, DownY = 0;              // press position, rounded twips
+  Integer DownButtonX = 0, DownButtonY = 0;  // press position in pixels
+};
+
+}  // namespace qp

@@ -1,0 +1,92 @@
+// The main window's events, each to its routine.
+#include "color/ColourEngine.h"
+#include "core/ApplyPaintMode.h"
+#include "core/Layout.h"
+#include "core/PaintModes.h"
+#include "core/Panel.h"
+#include "core/Pipeline.h"
+#include "core/Startup.h"
+#include "core/Undo.h"
+#include "ui/Program.h"
+
+namespace qp {
+
+namespace {
+
+void chooseMode(Session& s, int mode) {
+  s.m.PaintMode = mode;
+  ApplyPaintMode(s);
+}
+
+// The selection items bake the canvas before they choose their mode.
+void chooseSelection(Session& s, int mode) {
+  trap([&] {
+    TakeUndoSnapshot(s);
+    s.m.PaintMode = mode;
+    s.f.pPix.Visible = false;
+    ApplyPaintMode(s);
+  });
+}
+
+void wireModeMenus(Session& s) {
+  frmCanvas& f = s.f;
+  for (const PaintModeInfo& info : paintModes()) {
+    if (!*info.menu) continue;
+    auto* item = dynamic_cast<Menu*>(f.find(info.menu));
+    if (!item) continue;
+    const int mode = info.number;
+    item->Click = [&s, mode] { chooseMode(s, mode); };
+  }
+  f.mSelClr.Click = [&s] { chooseSelection(s, 18); };
+  f.mSelCpy.Click = [&s] { chooseSelection(s, 19); };
+  f.mSelRect.Click = [&s] { chooseSelection(s, 19); };
+  f.mTrans.Click = [&s] {
+    frmCanvas& f = s.f;
+    trap([&] {
+      f.TransparencySelect = -1;
+      TakeUndoSnapshot(s);
+      s.m.PaintMode = 19;
+      f.PicPaint.Visible = true;
+      f.pPix.Visible = false;
+      f.PanelRows = 0;
+      SizeControlPanel(s);
+    });
+  };
+  f.mPwp.Click = [&s] {
+    chooseMode(s, 14);
+    s.f.fX.Visible = true;
+    s.f.PicPaint.MousePointer = s.f.PointerShape;
+  };
+}
+
+void wireCanvasEvents(Session& s, const std::function<void()>& quit) {
+  frmCanvas& f = s.f;
+  f.Load = [&s] { Form_Load(s); };
+  f.Resize = [&s] { Form_Resize(s); };
+  f.Unload = [&s, quit] { Form_Unload(s, quit); };
+  f.Terminate = [&s] { Form_Terminate(s); };
+  f.mnuExit.Click = [&s, quit] { mnuExit_Click(s, quit); };
+  f.PicPaint.MouseDown = [&s](int b, int sh, Single x, Single y) { PicPaint_MouseDown(s, b, sh, x, y); };
+  f.PicPaint.MouseMove = [&s](int b, int sh, Single x, Single y) { PicPaint_MouseMove(s, b, sh, x, y); };
+  f.PicPaint.MouseUp = [&s](int b, int sh, Single x, Single y) { PicPaint_MouseUp(s, b, sh, x, y); };
+  f.vInt.Change = [&s] { vInt_Change(s); };
+  f.lMode.Change = [&f] { f.lModeB.Caption = f.lMode.Caption.get(); };
+  f.lHelp.Change = [&f] { f.lHelpb.Caption = f.lHelp.Caption.get(); };
+  f.m64x48.Click = [&s] { m64x48_Click(s); };
+  f.m8x6.Click = [&s] { SetCanvasSize(s, 13760, 10785, 11995, 7200); };
+  f.m768.Click = [&s] { SetCanvasSize(s, 13280, 8985, 11515, 7200); };
+  f.mnuUndo.Click = [&s] {
+    StopAllTools(s);
+    UndoOnce(s);
+  };
+}
+
+}  // namespace
+
+void wireCanvas(Session& s, const std::function<void()>& quit) {
+  wireModeMenus(s);
+  wireCanvasEvents(s, quit);
+  wireColours(s);
+}
+
+}  // namespace qp

@@ -1,0 +1,249 @@
+#include "ui/ControlPanel.h"
+
+#include "ui/Place.h"
+
+namespace qp {
+
+namespace {
+constexpr Colour kPanelBack = 0x404040;
+constexpr Colour kDimFrame = 0x808080;
+constexpr int kRowTop = 1260;   // top of value row 1 in the panel
+constexpr int kRowPitch = 390;  // distance between rows
+}  // namespace
+
+ControlPanel::ControlPanel(Form& f, Frame& strip)
+    : fVal(&f, nullptr, "fVal"),
+      lModeB(&f, &fVal, "lModeB"),
+      lMode(&f, &fVal, "lMode"),
+      lStats(&f, &fVal, "lStats"),
+      lTell(&f, &fVal, "lTell"),
+      lHelpb(&f, nullptr, "lHelpb"),
+      lHelp(&f, nullptr, "lHelp"),
+      lX(&f, nullptr, "lX"),
+      lY(&f, nullptr, "lY"),
+      lXb(&f, nullptr, "lXb"),
+      lYb(&f, nullptr, "lYb"),
+      lPic(&f, nullptr, "lPic"),
+      vVal1(&f, &fVal, "vVal1"), vVal2(&f, &fVal, "vVal2"), vVal3(&f, &fVal, "vVal3"),
+      vVal4(&f, &fVal, "vVal4"), vVal5(&f, &fVal, "vVal5"),
+      lVal1(&f, &fVal, "lVal1"), lVal2(&f, &fVal, "lVal2"), lVal3(&f, &fVal, "lVal3"),
+      lVal4(&f, &fVal, "lVal4"), lVal5(&f, &fVal, "lVal5"),
+      ckVal(&f, &fVal, "ckVal"),
+      ckVal2(&f, &fVal, "ckVal2"),
+      ckVert(&f, &strip, "ckVert"),
+      ckHoriz(&f, &strip, "ckHoriz"),
+      cCan(&f, &strip, "cCan"),
+      cSwap(&f, &strip, "cSwap"),
+      ckHold(&f, &strip, "ckHold"),
+      ckHide(&f, &strip, "ckHide"),
+      fPencil(&f, &strip, "fPencil"),
+      vPencil(&f, &fPencil, "vPencil"),
+      lPenVal(&f, &fPencil, "lPenVal"),
+      vMax(&f, &strip, "vMax"),
+      vMin(&f, &strip, "vMin"),
+      fInt(&f, &strip, "fInt"),
+      vInt(&f, &fInt, "vInt"),
+      shErSize(&f, &strip, "shErSize"),
+      fText(&f, nullptr, "fText"),
+      fTcover(&f, &fText, "fTcover"),
+      lstFont(&f, &fText, "lstFont"),
+      vFont(&f, &fText, "vFont"),
+      Text1(&f, &fText, "Text1"),
+      ckFreeTx(&f, &fVal, "ckFreeTx"),
+      ckTx(&f, &fVal, "ckTx"),
+      ckTxGrad(&f, &fVal, "ckTxGrad"),
+      fShad(&f, nullptr, "fShad"),
+      pShadTest(&f, &fShad, "pShadTest"),
+      lstShad(&f, &fShad, "lstShad"),
+      ckShaDraw(&f, &fShad, "ckShaDraw"),
+      fX(&f, nullptr, "fX"),
+      fHelp(&f, nullptr, "fHelp"),
+      fCust(&f, nullptr, "fCust"),
+      hCustm(&f, &fCust, "hCustm"),
+      vCustm(&f, &fCust, "vCustm"),
+      lWid(&f, &fCust, "lWid"),
+      lHgt(&f, &fCust, "lHgt"),
+      cCustm(&f, &fCust, "cCustm"),
+      cCanCust(&f, &fCust, "cCanCust") {
+  place(fVal, 0, 0, 1425, 2040);
+  fVal.BackColor = kPanelBack;
+  fVal.BorderStyle = 0;
+
+  place(lModeB, 45, 45, 1350, 255);
+  place(lMode, 30, 30, 1350, 255);
+  for (Label* l : {&lMode, &lModeB}) {
+    l->BackStyle = 0;
+    l->Alignment = 2;
+    l->FontBold = true;
+  }
+  lMode.ForeColor = 0xFFC0C0;
+  lModeB.ForeColor = 0x000000;
+  place(lStats, 30, 300, 1350, 225);
+  lStats.BackStyle = 0;
+  lStats.ForeColor = 0xC0C0C0;
+  lStats.Alignment = 2;
+  place(lTell, 30, 525, 1350, 225);
+  lTell.BackStyle = 0;
+  lTell.ForeColor = 0xC0C0FF;
+  lTell.Alignment = 2;
+
+  // Row n: a short bar with its label, in a frame whose colour says whether the row is live.
+  VScrollBar* bars[] = {&vVal1, &vVal2, &vVal3, &vVal4, &vVal5};
+  Label* labels[] = {&lVal1, &lVal2, &lVal3, &lVal4, &lVal5};
+  for (int n = 1; n <= 38; ++n) {
+    Shape& s = Shadow.add(n, &f, &fVal, QString("Shadow"));
+    s.BorderColor = kDimFrame;
+    s.Visible = false;
+  }
+  for (int n = 1; n <= 5; ++n) {
+    const int top = kRowTop + (n - 1) * kRowPitch;
+    place(Shadow(n), 30, top, 1365, 375);
+    place(*bars[n - 1], 60, top + 15, 255, 345);
+    place(*labels[n - 1], 345, top + 75, 1020, 225);
+    labels[n - 1]->BackStyle = 0;
+    labels[n - 1]->ForeColor = 0xFFFFFF;
+    bars[n - 1]->Visible = false;
+    labels[n - 1]->Visible = false;
+  }
+  Shadow(21).setParent(nullptr);  // the frame around the canvas
+  Shadow(21).Visible = true;
+  for (int n : {8, 9, 10, 14, 20, 32, 33, 35, 36, 38}) Shadow(n).setParent(&strip);
+
+  place(ckVal, 60, 780, 1300, 210);
+  place(Shadow(24), 30, 765, 1365, 240);
+  place(ckVal2, 60, 1020, 1300, 210);
+  place(Shadow(34), 30, 1005, 1365, 240);
+  for (CheckBox* c : {&ckVal, &ckVal2, &ckVert, &ckHoriz, &ckHold, &ckHide, &ckFreeTx, &ckTx, &ckTxGrad}) {
+    c->BackColor = kPanelBack;
+    c->ForeColor = 0xFFFFFF;
+    c->Visible = false;
+  }
+  place(ckVert, 11400, 60, 640, 210);
+  ckVert.Caption = "Vert";
+  place(Shadow(8), 11370, 45, 680, 240);
+  place(ckHoriz, 12075, 60, 640, 210);
+  ckHoriz.Caption = "Horiz";
+  place(Shadow(9), 12045, 45, 680, 240);
+  for (int i = 0; i <= 1; ++i) {
+    OptionButton& o = opVert.add(i, &f, &strip, QString("opVert"));
+    place(o, 11400 + i * 675, 330, 640, 210);
+    o.Caption = i == 0 ? "Vertical" : "Horizontal";
+    o.BackColor = kPanelBack;
+    o.ForeColor = 0xFFFFFF;
+    o.Visible = false;
+  }
+  place(cCan, 11400, 600, 1300, 285);
+  cCan.Caption = "Draw";
+  cCan.Visible = false;
+  place(Shadow(20), 11370, 585, 1365, 315);
+  place(cSwap, 9960, 600, 1300, 255);
+  cSwap.Caption = "Swap Colors";
+  cSwap.Visible = false;
+  place(Shadow(14), 9930, 585, 1365, 285);
+
+  place(fPencil, 7080, 30, 1440, 420);
+  fPencil.BackColor = kPanelBack;
+  place(vPencil, 0, 0, 255, 405);
+  setBar(vPencil, 160, 1, 1, 1, 10);
+  place(lPenVal, 285, 105, 1065, 225);
+  lPenVal.Caption = "Draw Width : 1";
+  lPenVal.BackStyle = 0;
+  lPenVal.ForeColor = 0xFFFFFF;
+  place(vMax, 8580, 45, 255, 345);
+  setBar(vMax, 160, 24, 24, 2, 2);
+  place(Shadow(35), 8550, 30, 315, 375);
+  place(vMin, 8895, 45, 255, 345);
+  setBar(vMin, 36, 1, 4, 1, 1);
+  place(Shadow(32), 8865, 30, 315, 375);
+  place(ckHold, 9240, 120, 690, 210);
+  ckHold.Caption = "Hold";
+  ckHold.Visible = true;
+  place(ckHide, 9960, 120, 1300, 210);
+  ckHide.Caption = "Hide Pointer";
+  ckHide.Visible = true;
+  place(Shadow(38), 9930, 105, 1365, 240);
+
+  place(fInt, 7080, 480, 1440, 390);
+  fInt.BackColor = kPanelBack;
+  fInt.Visible = false;
+  place(vInt, 0, 0, 255, 375);
+  setBar(vInt, 500, 1, 20, 1, 10);
+
+  place(shErSize, 8580, 480, 120, 120);
+  shErSize.Shape_ = 0;
+  shErSize.FillStyle = 0;
+  shErSize.Visible = false;
+
+  // Floating frames over the canvas; start-up places them.
+  place(fText, 60, 960, 4500, 3000);
+  fText.Visible = false;
+  place(fTcover, 0, 0, 4500, 600);
+  place(lstFont, 120, 240, 2400, 2400);
+  place(vFont, 2640, 240, 255, 600);
+  setBar(vFont, 120, 8, 24, 1, 1);
+  place(Text1, 120, 2700, 4200, 285);
+  Text1.Text = "Quillora";
+  place(fShad, 60, 960, 4500, 3000);
+  fShad.Visible = false;
+  place(pShadTest, 120, 0, 1215, 975);
+  pShadTest.AutoRedraw = false;
+  pShadTest.BackColor = 0x000000;
+  place(lstShad, 1440, 120, 2400, 2400);
+  place(ckShaDraw, 120, 1080, 1300, 210);
+  ckShaDraw.Caption = "Draw";
+  place(fX, 2400, 1020, 6000, 5000);
+  fX.Visible = false;
+  place(fHelp, 2400, 1020, 6000, 5000);
+  fHelp.Visible = false;
+  place(fCust, 1920, 480, 4800, 1800);
+  fCust.Visible = false;
+  place(hCustm, 120, 300, 4500, 255);
+  setBar(hCustm, 1500, 30000, 11295, 15, 1500);
+  place(lWid, 120, 60, 2000, 225);
+  place(vCustm, 120, 840, 4500, 255);  // a value bar drawn across, like its twin
+  setBar(vCustm, 1500, 30000, 8295, 15, 1500);
+  place(lHgt, 120, 600, 2000, 225);
+  place(cCustm, 120, 1260, 1200, 375);
+  cCustm.Caption = "OK";
+  place(cCanCust, 1440, 1260, 1200, 375);
+  cCanCust.Caption = "Cancel";
+
+  // The help line under the panel, with its shadow.
+  place(lHelpb, 15, 3600, 1425, 2400);
+  place(lHelp, 0, 3615, 1425, 2400);
+  lHelpb.BackStyle = 0;
+  lHelpb.ForeColor = 0x000000;
+  lHelp.BackStyle = 0;
+  lHelp.ForeColor = 0xC0C0C0;
+  // Pointer position, below the canvas.
+  place(lXb, 1440, 8340, 1200, 240);
+  place(lX, 1440, 8340, 1200, 240);
+  place(lYb, 2700, 8340, 1200, 240);
+  place(lY, 2700, 8340, 1200, 240);
+  for (Label* l : {&lX, &lY}) l->BackStyle = 0;
+  lPic.Visible = false;
+}
+
+VScrollBar& ControlPanel::valueBar(int n) {
+  switch (n) {
+    case 1: return vVal1;
+    case 2: return vVal2;
+    case 3: return vVal3;
+    case 4: return vVal4;
+    case 5: return vVal5;
+    default: raiseError(RuntimeError::SubscriptOutOfRange, "no such value row");
+  }
+}
+
+Label& ControlPanel::valueLabel(int n) {
+  switch (n) {
+    case 1: return lVal1;
+    case 2: return lVal2;
+    case 3: return lVal3;
+    case 4: return lVal4;
+    case 5: return lVal5;
+    default: raiseError(RuntimeError::SubscriptOutOfRange, "no such value row");
+  }
+}
+
+}  // namespace qp

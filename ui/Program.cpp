@@ -1,0 +1,18 @@
+#include "ui/Program.h"
+
+#include "tools/Tools.h"
+
+namespace qp {
+
+Program::Program(Runtime& rt, std::function<void()> quit)
+    : f(rt), s{m, f, rt, tools}, quit_(std::move(quit)) {
+  registerTools(tools);
+  wireCanvas(s, [this] {
+    quitRequested_ = true;
+    if (quit_) quit_();
+  });
+}
+
+void Program::start() { f.Show(); }
+
+}  // namespace qp

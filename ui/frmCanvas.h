@@ -1,0 +1,29 @@
+#pragma once
+// The main window: its controls, grouped by where they sit, and its shared variables. The window
+// itself holds no logic; the routines that give the controls their meaning live in core/, color/
+// and tools/ and are wired to the controls' events by wireCanvas (ui/CanvasWiring.cpp).
+#include "platform/Form.h"
+#include "ui/CanvasArea.h"
+#include "ui/CanvasMenus.h"
+#include "ui/CanvasTimers.h"
+#include "ui/CanvasVars.h"
+#include "ui/ColourBlock.h"
+#include "ui/ControlPanel.h"
+
+namespace qp {
+
+class frmCanvas : public Form,
+                  public CanvasTimers,
+                  public CanvasArea,
+                  public ColourBlock,
+                  public ControlPanel,
+                  public CanvasMenus,
+                  public CanvasVars {
+ public:
+  explicit frmCanvas(Runtime& rt);
+
+ private:
+  Form& form() { return *this; }  // the window, for its groups of controls to register in
+};
+
+}  // namespace qp
