@@ -1,0 +1,210 @@
+// The picture box itself: its persistent bitmap, the Picture laid under it, Cls and BackColor, the
+// size rules, and what the view reads back (dirty rectangle, refresh requests).
+#include "surface/PictureBox.h"
+
+#include <cmath>
+#include <cstring>
+
+#include "surface/Raster.h"
+
+namespace qp {
+
+// ---- Image and Picture ----
+
+QImage ImageHandle::get() const { return owner_->image_; }
+ImageHandle::operator QImage() const { return get(); }
+
+PictureProp& PictureProp::operator=(const QImage& pic) {
+  pic_ = pic;  // shared, not copied: the surface that draws next detaches its own bitmap
+  owner_->pictureAssigned();
+  return *this;
+}
+
+PictureProp& PictureProp::operator=(const PictureProp& other) {
+  return *this = other.pic_;
+}
+
+// ---- construction and property rules ----
+
+PictureBox::PictureBox(Form* form, Control* parent, QString name, int index)
+    : VisualControl(form, parent, std::move(name), index) {
+  installRules();
+  applyScaleMode();
+}
+
+namespace {
+void requireRange(int v, int lo, int hi) {
+  if (v < lo || v > hi) raiseError(RuntimeError::InvalidPropertyValue, "Invalid property value");
+}
+void requireFinite(Single v) {
+  if (!std::isfinite(v)) raiseError(RuntimeError::InvalidPropertyValue, "Invalid property value");
+}
+}  // namespace
+
+void PictureBox::installRules() {
+  Width.setSetter([this](const Single& w) { setOuterSize(w, Height); });
+  Height.setSetter([this](const Single& h) { setOuterSize(Width, h); });
+  // A new background colour clears the bitmap, the Picture staying laid on it.
+  BackColor.setSetter([this](const Colour& c) {
+    BackColor.setRaw(c);
+    pictureAssigned();
+  });
+
+  ScaleMode.setSetter([this](const int& m) {
+    requireRange(m, 0, 7);
+    ScaleMode.setRaw(m);
+    applyScaleMode();
+  });
+  // Any write to the scale itself makes it a user scale.
+  auto userScale = [this](Prop<Single>& prop, bool isSize) {
+    prop.setSetter([this, &prop, isSize](const Single& v) {
+      requireFinite(v);
+      if (isSize && v == 0) raiseError(RuntimeError::InvalidPropertyValue, "Invalid property value");
+      prop.setRaw(v);
+      ScaleMode.setRaw(0);
+    });
+  };
+  userScale(ScaleWidth, true);
+  userScale(ScaleHeight, true);
+  userScale(ScaleLeft, false);
+  userScale(ScaleTop, false);
+
+  DrawWidth.setSetter([this](const int& w) {
+    requireRange(w, 1, 32767);
+    DrawWidth.setRaw(w);
+  });
+  DrawMode.setSetter([this](const int& m) {
+    requireRange(m, 1, 16);
+    DrawMode.setRaw(m);
+  });
+  DrawStyle.setSetter([this](const int& s) {
+    requireRange(s, 0, 6);
+    DrawStyle.setRaw(s);
+  });
+  FillStyle.setSetter([this](const int& s) {
+    requireRange(s, 0, 7);
+    FillStyle.setRaw(s);
+  });
+}
+
+// ---- size ----
+
+bool PictureBox::parentInPixels() const {
+  const Control* p = parent();
+  return p && p->kind() == ControlKind::PictureBox &&
+         static_cast<const PictureBox*>(p)->ScaleMode == 3;
+}
+
+double PictureBox::outerTwips(Single size) const {
+  return parentInPixels() ? static_cast<double>(size) * 15.0 : static_cast<double>(size);
+}
+
+void PictureBox::setOuterSize(Single width, Single height) {
+  requireFinite(width);
+  requireFinite(height);
+  if (width < 0 || height < 0)
+    raiseError(RuntimeError::InvalidPropertyValue, "Invalid property value");
+  const double pw = std::nearbyint(outerTwips(width) / 15.0);
+  const double ph = std::nearbyint(outerTwips(height) / 15.0);
+  if (pw > raster::kMaxSide || ph > raster::kMaxSide || pw * ph > double(raster::kMaxPixels))
+    raiseError(RuntimeError::OutOfMemory, "Out of memory");
+  Width.setRaw(width);
+  Height.setRaw(height);
+  resizeBitmap();
+  applyScaleMode();
+}
+
+// Growing keeps what is there and shows the back colour in the new part; shrinking drops the cut
+// part for good.
+void PictureBox::resizeBitmap() {
+  const int pw = static_cast<int>(std::nearbyint(outerTwips(Width) / 15.0));
+  const int ph = static_cast<int>(std::nearbyint(outerTwips(Height) / 15.0));
+  if (pw == image_.width() && ph == image_.height()) return;
+  if (pw <= 0 || ph <= 0) {
+    image_ = QImage();
+    dirty_ = QRect();
+    return;
+  }
+  QImage next(pw, ph, QImage::Format_RGB32);
+  if (next.isNull()) raiseError(RuntimeError::OutOfMemory, "Out of memory");
+  next.fill(raster::toPixel(BackColor));
+  if (!image_.isNull()) {
+    const int w = std::min(pw, image_.width());
+    const int h = std::min(ph, image_.height());
+    for (int y = 0; y < h; ++y)
+      std::memcpy(next.scanLine(y), image_.constScanLine(y), static_cast<size_t>(w) * 4);
+  }
+  image_ = std::move(next);
+  dirty_ = image_.rect();
+}
+
+int PictureBox::pixelWidth() const { return image_.width(); }
+int PictureBox::pixelHeight() const { return image_.height(); }
+
+// ---- Picture, Cls, BackColor ----
+
+void PictureBox::clearTo(Colour c) {
+  if (image_.isNull()) return;
+  const QImage& pic = Picture.pic_;
+  // A picture that covers the whole bitmap needs no background: share it instead of copying, so
+  // that `X.Picture = X.Image` and Cls after it cost nothing until the next drawing call.
+  if (!pic.isNull() && pic.size() == image_.size() && pic.format() == QImage::Format_RGB32) {
+    image_ = pic;
+  } else {
+    if (image_.isDetached()) {
+      image_.fill(raster::toPixel(c));
+    } else {
+      // Still shared with a picture: a fresh bitmap is cheaper than a detach copy to overwrite.
+      QImage fresh(image_.size(), QImage::Format_RGB32);
+      if (fresh.isNull()) raiseError(RuntimeError::OutOfMemory, "Out of memory");
+      fresh.fill(raster::toPixel(c));
+      image_ = std::move(fresh);
+    }
+    if (!pic.isNull()) {
+      QPainter p(&image_);
+      p.drawImage(0, 0, pic);
+    }
+  }
+  dirty_ = image_.rect();
+}
+
+void PictureBox::pictureAssigned() { clearTo(BackColor); }
+
+void PictureBox::Cls() {
+  clearTo(BackColor);
+  CurrentX = 0;
+  CurrentY = 0;
+}
+
+// ---- what the view and the device calls see ----
+
+QImage& PictureBox::mutableBitmap() {
+  if (!image_.isNull()) {
+    image_.bits();
+    dirty_ = image_.rect();
+  }
+  return image_;
+}
+
+QImage& PictureBox::editBitmap() {
+  if (image_.isNull()) raiseError(RuntimeError::InvalidCall, "Invalid procedure call");
+  return image_;
+}
+
+void PictureBox::markDirty(const QRect& pixels) { dirty_ |= pixels & image_.rect(); }
+
+QRect PictureBox::takeDirty() {
+  const QRect r = dirty_;
+  dirty_ = QRect();
+  return r;
+}
+
+void PictureBox::Refresh() { refreshRequested_ = true; }
+
+bool PictureBox::takeRefreshRequest() {
+  const bool r = refreshRequested_;
+  refreshRequested_ = false;
+  return r;
+}
+
+}  // namespace qp
