@@ -1,0 +1,76 @@
+// Print, TextWidth and TextHeight. The font size is in points; with 20 twips to a point and 15
+// twips to a pixel a point is 4/3 of a pixel. Text is drawn without antialiasing so that every
+// pixel of a glyph has exactly the ForeColor, as the fill and colour-picking tools expect.
+//
+// Print writes each line of the text with its top-left corner at CurrentX, CurrentY; afterwards
+// CurrentY stands at the top of the next line and CurrentX back at the column where Print began.
+#include <QFont>
+#include <QFontMetrics>
+#include <algorithm>
+#include <cmath>
+
+#include "surface/PictureBox.h"
+#include "surface/Raster.h"
+
+namespace qp {
+
+namespace {
+
+QFont fontOf(const PictureBox& box) {
+  QFont f(box.FontName.get());
+  const double px = std::isfinite(box.FontSize.get()) ? box.FontSize * 20.0 / 15.0 : 1.0;
+  f.setPixelSize(static_cast<int>(std::clamp(std::round(px), 1.0, 2048.0)));
+  f.setBold(box.FontBold);
+  f.setItalic(box.FontItalic);
+  f.setUnderline(box.FontUnderline);
+  f.setStrikeOut(box.FontStrikethru);
+  f.setStyleStrategy(QFont::NoAntialias);
+  return f;
+}
+
+QStringList linesOf(const QString& text) {
+  QString t = text;
+  t.remove(QLatin1Char('\r'));
+  return t.split(QLatin1Char('\n'));
+}
+
+}  // namespace
+
+void PictureBox::Print(const QString& text) {
+  QImage& img = editBitmap();
+  const QFont font = fontOf(*this);
+  const QFontMetrics fm(font);
+  const Single startX = CurrentX;
+  const int x = pixelX(startX);
+  int y = pixelY(CurrentY);
+  QPainter p(&img);
+  p.setFont(font);
+  p.setPen(QColor::fromRgb(raster::toPixel(ForeColor)));
+  const QStringList lines = linesOf(text);
+  for (const QString& line : lines) {
+    const QRect cell(x, y, fm.horizontalAdvance(line), fm.height());
+    if (!FontTransparent) p.fillRect(cell, QColor::fromRgb(raster::toPixel(BackColor)));
+    p.drawText(QPoint(x, y + fm.ascent()), line);
+    // Italic overhang and underline may reach a little past the advance.
+    markDirty(cell.adjusted(-2, 0, fm.maxWidth() / 2 + 2, 2));
+    y += fm.lineSpacing();
+  }
+  p.end();
+  CurrentX = startX;
+  CurrentY = static_cast<Single>(y / pixelsPerUnitY() + ScaleTop);
+}
+
+Single PictureBox::TextWidth(const QString& text) const {
+  const QFontMetrics fm(fontOf(*this));
+  int widest = 0;
+  for (const QString& line : linesOf(text)) widest = std::max(widest, fm.horizontalAdvance(line));
+  return static_cast<Single>(widest / pixelsPerUnitX());
+}
+
+Single PictureBox::TextHeight(const QString& text) const {
+  const QFontMetrics fm(fontOf(*this));
+  const auto n = linesOf(text).size();
+  return static_cast<Single>((fm.height() + (n - 1) * fm.lineSpacing()) / pixelsPerUnitY());
+}
+
+}  // namespace qp
