@@ -1,0 +1,171 @@
+// The persistent bitmap: its size from Width/Height, Picture and Image by value, Cls, BackColor,
+// the scale modes, refusals, and what the view learns (dirty rectangle, refresh).
+#include "SurfaceFixture.h"
+
+namespace qp::test {
+namespace {
+
+using BitmapTest = SurfaceTest;
+
+TEST_F(BitmapTest, SizeFollowsTwipsOrParentPixels) {
+  PictureBox& canvas = box(0, 0, 1);
+  canvas.Width = 11295;
+  canvas.Height = 8295;
+  EXPECT_EQ(canvas.pixelWidth(), 753);
+  EXPECT_EQ(canvas.pixelHeight(), 553);
+  EXPECT_FLOAT_EQ(canvas.ScaleWidth, 11295);  // twips: the interior is the outer size
+  EXPECT_FLOAT_EQ(canvas.ScaleHeight, 8295);
+
+  // A child of a picture box in pixels takes its size in pixels.
+  PictureBox& parent = box(100, 100, 3);
+  PictureBox child(&form, &parent, "child");
+  child.ScaleMode = 3;
+  child.Width = 33;
+  child.Height = 20;
+  EXPECT_EQ(child.pixelWidth(), 33);
+  EXPECT_FLOAT_EQ(child.ScaleWidth, 33);
+  EXPECT_FLOAT_EQ(child.ScaleHeight, 20);
+}
+
+TEST_F(BitmapTest, GrowingKeepsDrawingShrinkingLosesTheCutPart) {
+  PictureBox& b = box(20, 20, 3, 0x000000);
+  b.Line(0, 0, 19, 19, 0x0000FF, LineBox::BF);
+  b.Width = 40 * 15;
+  EXPECT_EQ(px(b, 19, 19), 0x0000FF);  // kept
+  EXPECT_EQ(px(b, 30, 5), 0x000000);   // the new part shows the back colour
+  b.Width = 10 * 15;
+  b.Width = 20 * 15;
+  EXPECT_EQ(px(b, 9, 5), 0x0000FF);
+  EXPECT_EQ(px(b, 15, 5), 0x000000);  // cut off and gone
+}
+
+TEST_F(BitmapTest, ImageCopiesAreByValueAndCostOneDetach) {
+  PictureBox& x = box(64, 64, 3, 0x000000);
+  PictureBox& y = box(64, 64, 3, 0x808080);
+  x.PSet(5, 5, 0x00FF00);
+  y.Picture = x.Image;
+  // Sharing: neither the copy nor the laying on y copied pixels.
+  EXPECT_EQ(y.bitmap().constBits(), x.bitmap().constBits());
+  EXPECT_EQ(px(y, 5, 5), 0x00FF00);
+
+  x.Picture = x.Image;  // baking costs nothing either
+  const QImage kept = x.Image;
+  const uchar* before = x.bitmap().constBits();
+  x.PSet(6, 6, 0xFF0000);
+  const uchar* after = x.bitmap().constBits();
+  EXPECT_NE(after, before);  // the first drawing call copied once...
+  x.Line(0, 0, 63, 63, 0xFFFFFF);
+  x.Circle(30, 30, 10, 0xFFFFFF);
+  EXPECT_EQ(x.bitmap().constBits(), after);  // ...and never again
+
+  // Later drawing on x reaches neither the copy nor y, and Cls brings x's Picture back.
+  EXPECT_EQ(kept.pixel(6, 6) & 0xFFFFFF, 0u);
+  EXPECT_EQ(px(y, 6, 6), 0x000000);
+  x.Cls();
+  EXPECT_EQ(px(x, 6, 6), 0x000000);
+  EXPECT_EQ(px(x, 5, 5), 0x00FF00);
+  EXPECT_EQ(x.bitmap().constBits(), x.Picture.get().constBits());
+}
+
+TEST_F(BitmapTest, ClsAndBackColorLayThePictureOverTheBackground) {
+  PictureBox& b = box(30, 20, 3, 0x112233);
+  QImage small(10, 10, QImage::Format_RGB32);
+  small.fill(0xFF0000FF);  // blue as 0xAARRGGBB
+  b.Picture = small;
+  EXPECT_EQ(px(b, 5, 5), 0xFF0000);
+  EXPECT_EQ(px(b, 20, 5), 0x112233);
+
+  b.CurrentX = 7;
+  b.CurrentY = 9;
+  b.PSet(25, 15, 0xFFFFFF);
+  b.Cls();
+  EXPECT_EQ(px(b, 25, 15), 0x112233);
+  EXPECT_EQ(b.CurrentX, 0);
+  EXPECT_EQ(b.CurrentY, 0);
+
+  b.PSet(25, 15, 0xFFFFFF);
+  b.BackColor = 0x00FF00;  // clears what was drawn, the picture staying on top
+  EXPECT_EQ(px(b, 25, 15), 0x00FF00);
+  EXPECT_EQ(px(b, 2, 2), 0xFF0000);
+
+  b.Picture = QImage();  // an emptied picture leaves only the back colour
+  EXPECT_EQ(px(b, 2, 2), 0x00FF00);
+}
+
+TEST_F(BitmapTest, ScaleModesAndUserScale) {
+  PictureBox& b = box(200, 100, 1);
+  EXPECT_DOUBLE_EQ(b.toPixelX(150), 10);
+  b.PSet(150, 300, 0xFFFFFF);
+  EXPECT_EQ(px(b, 10, 20), 0xFFFFFF);
+
+  b.ScaleWidth = 2;  // a user scale from -1 to 1 across
+  b.ScaleLeft = -1;
+  b.ScaleHeight = 1;
+  EXPECT_EQ(b.ScaleMode, 0);
+  b.PSet(0, 0.5f, 0x00FFFF);
+  EXPECT_EQ(px(b, 100, 50), 0x00FFFF);
+
+  // Resizing keeps a user scale: the units stretch with the bitmap.
+  b.Width = 400 * 15;
+  EXPECT_FLOAT_EQ(b.ScaleWidth, 2);
+  EXPECT_DOUBLE_EQ(b.toPixelX(0), 200);
+
+  b.ScaleMode = 3;
+  EXPECT_FLOAT_EQ(b.ScaleLeft, 0);
+  EXPECT_FLOAT_EQ(b.ScaleWidth, 400);
+  b.ScaleMode = 1;
+  EXPECT_FLOAT_EQ(b.ScaleWidth, 6000);
+  b.Height = 50 * 15;
+  EXPECT_FLOAT_EQ(b.ScaleHeight, 750);
+}
+
+TEST_F(BitmapTest, RefusalsRaiseInsteadOfMisbehaving) {
+  PictureBox& empty = box(0, 0, 3);
+  auto code = [](auto&& f) {
+    try {
+      f();
+    } catch (const RuntimeError& e) {
+      return e.code();
+    }
+    return 0;
+  };
+  EXPECT_EQ(code([&] { empty.Line(0, 0, 5, 5); }), RuntimeError::InvalidCall);
+  EXPECT_EQ(code([&] { empty.PSet(0, 0); }), RuntimeError::InvalidCall);
+  EXPECT_EQ(code([&] { empty.Circle(1, 1, 1); }), RuntimeError::InvalidCall);
+  EXPECT_EQ(code([&] { empty.Print("x"); }), RuntimeError::InvalidCall);
+  EXPECT_EQ(empty.Point(0, 0), -1);
+  EXPECT_NO_THROW(empty.Cls());
+
+  PictureBox& b = box(10, 10, 3);
+  EXPECT_EQ(code([&] { b.Width = 20000 * 15; }), RuntimeError::OutOfMemory);
+  EXPECT_EQ(b.pixelWidth(), 10);  // unchanged by the refusal
+  EXPECT_EQ(code([&] { b.Height = -1; }), RuntimeError::InvalidPropertyValue);
+  EXPECT_EQ(code([&] { b.DrawWidth = 0; }), RuntimeError::InvalidPropertyValue);
+  EXPECT_EQ(code([&] { b.DrawMode = 17; }), RuntimeError::InvalidPropertyValue);
+  EXPECT_EQ(code([&] { b.ScaleWidth = 0; }), RuntimeError::InvalidPropertyValue);
+  EXPECT_EQ(code([&] { b.Line(0, 0, std::nanf(""), 3); }), RuntimeError::Overflow);
+  EXPECT_EQ(code([&] { b.PaintPicture(QImage(), 0, 0); }), RuntimeError::InvalidPicture);
+}
+
+TEST_F(BitmapTest, DirtyRectangleCoversOnlyWhatWasDrawn) {
+  PictureBox& b = box(300, 300, 3);
+  b.takeDirty();
+  EXPECT_TRUE(b.takeDirty().isEmpty());
+  b.Line(10, 20, 40, 20, 0xFFFFFF);
+  EXPECT_EQ(b.takeDirty(), QRect(10, 20, 31, 1));
+  b.DrawWidth = 5;
+  b.PSet(100, 100, 0xFFFFFF);
+  EXPECT_EQ(b.takeDirty(), QRect(98, 98, 5, 5));
+  b.Line(-50, -50, 2, 2, 0xFFFFFF);  // clipped to the bitmap
+  const QRect r = b.takeDirty();
+  EXPECT_EQ(r.topLeft(), QPoint(0, 0));
+  EXPECT_LE(r.right(), 5);
+
+  EXPECT_FALSE(b.takeRefreshRequest());
+  b.Refresh();
+  EXPECT_TRUE(b.takeRefreshRequest());
+  EXPECT_FALSE(b.takeRefreshRequest());
+}
+
+}  // namespace
+}  // namespace qp::test

@@ -1,0 +1,173 @@
+// The device calls (GetPixel, SetPixel, ExtFloodFill, TransparentBlt), PaintPicture and Print.
+#include "SurfaceFixture.h"
+
+namespace qp::test {
+namespace {
+
+using DeviceTest = SurfaceTest;
+constexpr Colour kWhite = 0xFFFFFF, kRed = 0x0000FF, kGreen = 0x00FF00, kBlue = 0xFF0000;
+
+TEST_F(DeviceTest, PixelsCarryRedInTheLowByte) {
+  PictureBox& b = box(10, 10, 1);  // device calls are in pixels whatever the scale
+  SetPixel(b, 3, 4, RGB(10, 20, 30));
+  EXPECT_EQ(GetPixel(b, 3, 4), 0x1E140A);
+  EXPECT_EQ(b.bitmap().pixel(3, 4), 0xFF0A141Eu);  // the bitmap is 0xAARRGGBB
+  EXPECT_EQ(b.Point(45, 60), 0x1E140A);
+  EXPECT_EQ(GetPixel(b, -1, 0), -1);
+  EXPECT_EQ(GetPixel(b, 10, 0), -1);
+  SetPixel(b, 10, 10, kWhite);  // outside: nothing
+  EXPECT_EQ(count(b, kWhite), 0);
+}
+
+TEST_F(DeviceTest, FloodFillTakesTheFourConnectedAreaOfExactlyThatColour) {
+  PictureBox& b = box(20, 20, 3, kWhite);
+  // A closed diagonal wall: a fill that went corner to corner would leak through it.
+  for (int i = 0; i < 20; ++i) SetPixel(b, i, 19 - i, 0x000000);
+  SetPixel(b, 2, 2, 0xFEFFFF);  // nearly white is a border too
+  b.FillStyle = 0;
+  b.FillColor = kRed;
+  EXPECT_TRUE(ExtFloodFill(b, 0, 0, kWhite, 1));
+  EXPECT_EQ(px(b, 0, 0), kRed);
+  EXPECT_EQ(px(b, 17, 1), kRed);
+  EXPECT_EQ(px(b, 2, 2), 0xFEFFFF);
+  EXPECT_EQ(px(b, 19, 19), kWhite);  // beyond the diagonal
+  EXPECT_EQ(px(b, 10, 10), kWhite);
+  EXPECT_EQ(count(b, kRed), 19 * 20 / 2 - 1);
+
+  // Nothing happens when the seed is not the colour, or the fill is transparent.
+  EXPECT_FALSE(ExtFloodFill(b, 19, 19, kRed, 1));
+  b.FillStyle = 1;
+  EXPECT_FALSE(ExtFloodFill(b, 19, 19, kWhite, 1));
+  EXPECT_EQ(px(b, 19, 19), kWhite);
+  EXPECT_FALSE(ExtFloodFill(b, 25, 0, kWhite, 1));
+}
+
+TEST_F(DeviceTest, FloodFillFollowsASerpentineCorridor) {
+  // Walls on every other row, open at alternating ends: one corridor that turns back and forth.
+  const int w = 31, h = 31;
+  PictureBox& b = box(w, h, 3, 0x000000);
+  for (int y = 1; y < h; y += 2) {
+    const int gap = (y / 2) % 2 == 0 ? w - 1 : 0;
+    for (int x = 0; x < w; ++x)
+      if (x != gap) SetPixel(b, x, y, kWhite);
+  }
+  b.FillStyle = 0;
+  b.FillColor = kGreen;
+  b.takeDirty();
+  EXPECT_TRUE(ExtFloodFill(b, 0, 0, 0x000000, 1));
+  EXPECT_EQ(count(b, 0x000000), 0);  // every corridor pixel reached
+  EXPECT_EQ(count(b, kGreen), w * h - (h / 2) * (w - 1));
+  EXPECT_EQ(b.takeDirty(), QRect(0, 0, w, h));
+}
+
+TEST_F(DeviceTest, TransparentBltLeavesTheKeyOut) {
+  PictureBox& src = box(4, 4, 3, kRed);
+  SetPixel(src, 1, 1, kGreen);  // the key colour
+  PictureBox& dst = box(20, 20, 3, kBlue);
+  EXPECT_TRUE(TransparentBlt(dst, 2, 3, 4, 4, src, 0, 0, 4, 4, kGreen));
+  EXPECT_EQ(px(dst, 2, 3), kRed);
+  EXPECT_EQ(px(dst, 3, 4), kBlue);  // under the key
+  EXPECT_EQ(px(dst, 5, 6), kRed);
+  EXPECT_EQ(px(dst, 6, 7), kBlue);
+
+  // Stretched twice over: the key pixel becomes a 2x2 hole.
+  EXPECT_TRUE(TransparentBlt(dst, 10, 10, 8, 8, src, 0, 0, 4, 4, kGreen));
+  EXPECT_EQ(px(dst, 10, 10), kRed);
+  EXPECT_EQ(px(dst, 12, 12), kBlue);
+  EXPECT_EQ(px(dst, 13, 13), kBlue);
+  EXPECT_EQ(px(dst, 14, 14), kRed);
+  EXPECT_EQ(px(dst, 17, 17), kRed);
+  EXPECT_FALSE(TransparentBlt(dst, 0, 0, 0, 4, src, 0, 0, 4, 4, kGreen));
+}
+
+TEST_F(DeviceTest, PaintPictureStretchesCopiesPartsAndMirrors) {
+  QImage pic(4, 2, QImage::Format_RGB32);
+  for (int x = 0; x < 4; ++x) {
+    pic.setPixel(x, 0, qRgb(x * 10, 0, 0));
+    pic.setPixel(x, 1, qRgb(0, x * 10, 0));
+  }
+  PictureBox& b = box(40, 40, 3, kWhite);
+  b.PaintPicture(pic, 0, 0);  // natural size
+  EXPECT_EQ(px(b, 3, 0), RGB(30, 0, 0));
+  EXPECT_EQ(px(b, 4, 0), kWhite);
+
+  b.PaintPicture(pic, 10, 10, 8, 4);  // stretched twice over
+  EXPECT_EQ(px(b, 10, 10), RGB(0, 0, 0));
+  EXPECT_EQ(px(b, 13, 11), RGB(10, 0, 0));
+  EXPECT_EQ(px(b, 17, 13), RGB(0, 30, 0));
+  EXPECT_EQ(px(b, 18, 10), kWhite);
+
+  b.PaintPicture(pic, 20, 0, -4, 2);  // negative width: mirrored, ending at x1
+  EXPECT_EQ(px(b, 16, 0), RGB(30, 0, 0));
+  EXPECT_EQ(px(b, 19, 0), RGB(0, 0, 0));
+  EXPECT_EQ(px(b, 20, 0), kWhite);
+
+  b.PaintPicture(pic, 30, 30, 4, 2, 4, 2, -4, -2);  // source read backwards: both axes flipped
+  EXPECT_EQ(px(b, 30, 30), RGB(0, 30, 0));
+  EXPECT_EQ(px(b, 33, 31), RGB(0, 0, 0));
+
+  b.PaintPicture(pic, 0, 20, {}, {}, 2, 1, 2, 1);  // a part, one to one
+  EXPECT_EQ(px(b, 0, 20), RGB(0, 20, 0));
+  EXPECT_EQ(px(b, 1, 20), RGB(0, 30, 0));
+  EXPECT_EQ(px(b, 2, 20), kWhite);
+  EXPECT_EQ(px(b, 0, 21), kWhite);
+}
+
+TEST_F(DeviceTest, PaintPictureFromAnotherSurfaceUsesItsUnits) {
+  PictureBox& twips = box(10, 10, 1, kRed);
+  SetPixel(twips, 5, 5, kGreen);
+  twips.Picture = twips.Image;
+  PictureBox& pixels = box(10, 10, 3, kWhite);
+  // The source part (75, 75)-(90, 90) twips is the pixel 5, 5.
+  pixels.PaintPicture(twips.Picture, 0, 0, 3, 3, 75, 75, 15, 15);
+  EXPECT_EQ(px(pixels, 0, 0), kGreen);
+  EXPECT_EQ(px(pixels, 2, 2), kGreen);
+  EXPECT_EQ(px(pixels, 3, 3), kWhite);
+
+  // A surface may paint from its own picture: the copy reads the picture as it was.
+  pixels.Picture = pixels.Image;
+  pixels.PaintPicture(pixels.Picture, 1, 1);
+  EXPECT_EQ(px(pixels, 1, 1), kGreen);
+  EXPECT_EQ(px(pixels, 3, 3), kGreen);
+  EXPECT_EQ(px(pixels, 4, 4), kWhite);
+}
+
+TEST_F(DeviceTest, PrintWritesAtTheCurrentPositionAndMovesToTheNextLine) {
+  PictureBox& b = box(300, 120, 3, kWhite);
+  b.ForeColor = kBlue;
+  b.FontSize = 12;  // 16 pixels
+  b.CurrentX = 20;
+  b.CurrentY = 10;
+  const Single h = b.TextHeight("Hg");
+  b.Print("Hello");
+  QRect ink = extent(b, kBlue);
+  ASSERT_FALSE(ink.isEmpty());
+  EXPECT_GE(ink.left(), 20);
+  EXPECT_GE(ink.top(), 10);
+  EXPECT_LE(ink.bottom(), 10 + h);
+  EXPECT_NEAR(ink.width(), b.TextWidth("Hello"), 4);
+  EXPECT_EQ(b.CurrentX, 20);
+  EXPECT_GE(b.CurrentY, 10 + h - 1);
+  // Text is drawn without antialiasing: only the pen colour and the background exist.
+  EXPECT_EQ(count(b, kBlue) + count(b, kWhite), 300 * 120);
+
+  // An opaque font paints its background.
+  b.FontTransparent = false;
+  b.BackColor = 0x000000;  // also clears
+  b.BackColor.setRaw(kGreen);
+  b.CurrentX = 0;
+  b.CurrentY = 60;
+  b.Print("Wide");
+  EXPECT_GT(count(b, kGreen), 0);
+  EXPECT_EQ(px(b, 0, 59), 0x000000);
+
+  // Sizes follow the scale: twice as many units per pixel reads twice as large.
+  b.FontBold = true;
+  const Single pixelsWide = b.TextWidth("Bold");
+  b.ScaleMode = 1;
+  EXPECT_FLOAT_EQ(b.TextWidth("Bold"), pixelsWide * 15);
+  EXPECT_GT(b.TextHeight("a\nb"), b.TextHeight("a") * 1.5f);
+}
+
+}  // namespace
+}  // namespace qp::test
