@@ -1,0 +1,151 @@
+// What the user does with Qt's own widgets and the menus, turned into the controls' events.
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+
+#include "platform/Controls.h"
+#include "platform/qt/FormView.h"
+
+namespace qp {
+
+namespace {
+bool isTopMenu(const Menu& m) { return !m.parent() || m.parent()->kind() != ControlKind::Menu; }
+}  // namespace
+
+void FormView::rebuildMenus() {
+  QMenuBar* bar = window_->menuBar();
+  bar->clear();
+  actions_.clear();
+  bool any = false;
+  for (Control* c : form_.controls()) {
+    if (c->kind() != ControlKind::Menu) continue;
+    auto& m = static_cast<Menu&>(*c);
+    if (!isTopMenu(m)) continue;
+    any = true;
+    if (m.items().empty()) {
+      QAction* a = bar->addAction(m.Caption.get());
+      connect(a, &QAction::triggered, this, [this, &m] { dispatch([&m] { m.raiseClick(); }); });
+      actions_[&m] = a;
+    } else {
+      QMenu* sub = bar->addMenu(m.Caption.get());
+      // Opening a menu is its Click: the program updates its items there.
+      connect(sub, &QMenu::aboutToShow, this, [this, &m] { dispatch([&m] { m.raiseClick(); }); });
+      actions_[&m] = sub->menuAction();
+      addMenuItems(sub, m);
+    }
+    applyMenu(m);
+  }
+  bar->setVisible(any);
+}
+
+void FormView::addMenuItems(QMenu* into, Menu& parent) {
+  for (Menu* item : parent.items()) {
+    Menu& m = *item;
+    if (!m.items().empty()) {
+      QMenu* sub = into->addMenu(m.Caption.get());
+      connect(sub, &QMenu::aboutToShow, this, [this, &m] { dispatch([&m] { m.raiseClick(); }); });
+      actions_[&m] = sub->menuAction();
+      addMenuItems(sub, m);
+    } else if (m.Caption.get() == "-") {
+      actions_[&m] = into->addSeparator();
+    } else {
+      QAction* a = into->addAction(m.Caption.get());
+      connect(a, &QAction::triggered, this, [this, &m] { dispatch([&m] { m.raiseClick(); }); });
+      actions_[&m] = a;
+    }
+    applyMenu(m);
+  }
+}
+
+void FormView::applyMenu(Menu& m) {
+  QAction* a = actionFor(&m);
+  if (!a) return;
+  if (!a->isSeparator()) a->setText(m.Caption);
+  a->setEnabled(m.Enabled);
+  a->setVisible(m.Visible);
+  a->setCheckable(m.Checked);
+  a->setChecked(m.Checked);
+}
+
+void FormView::connectSignals(Control* c, QWidget* w) {
+  switch (c->kind()) {
+    case ControlKind::VScrollBar: case ControlKind::HScrollBar: {
+      auto* s = static_cast<ScrollBar*>(c);
+      auto* bar = static_cast<QScrollBar*>(w);
+      // Qt has already moved its slider; the control decides where it really goes.
+      connect(bar, &QAbstractSlider::actionTriggered, this, [this, s, bar](int action) {
+        const int proposed = bar->sliderPosition();
+        const int min = s->Min, max = s->Max;
+        const bool towardMin = min <= max ? proposed < s->Value : proposed > s->Value;
+        switch (action) {
+          case QAbstractSlider::SliderSingleStepAdd: case QAbstractSlider::SliderSingleStepSub:
+            dispatch([s, towardMin] { towardMin ? s->arrowUp() : s->arrowDown(); });
+            break;
+          case QAbstractSlider::SliderPageStepAdd: case QAbstractSlider::SliderPageStepSub:
+            dispatch([s, towardMin] { towardMin ? s->pageUp() : s->pageDown(); });
+            break;
+          case QAbstractSlider::SliderToMinimum: case QAbstractSlider::SliderToMaximum:
+            dispatch([s, proposed] { s->Value = proposed; });
+            break;
+          default: return;  // the thumb's drag comes through sliderMoved
+        }
+        bar->setSliderPosition(s->Value);
+      });
+      // While the thumb is dragged the value follows it with Scroll; Change comes at the drop.
+      auto dragStart = std::make_shared<int>(0);
+      connect(bar, &QAbstractSlider::sliderPressed, this, [s, dragStart] { *dragStart = s->Value; });
+      connect(bar, &QAbstractSlider::sliderMoved, this, [this, s](int pos) {
+        dispatch([s, pos] {
+          s->Value.setRaw(pos);
+          if (s->Scroll) s->Scroll();
+        });
+      });
+      connect(bar, &QAbstractSlider::sliderReleased, this, [this, s, dragStart] {
+        dispatch([s, dragStart] {
+          if (s->Value != *dragStart && s->Change) s->Change();
+        });
+      });
+      break;
+    }
+    case ControlKind::CheckBox: case ControlKind::OptionButton: case ControlKind::CommandButton: {
+      auto* v = static_cast<VisualControl*>(c);
+      connect(static_cast<QAbstractButton*>(w), &QAbstractButton::clicked, this, [this, v] {
+        dispatch([v] { v->raiseClick(); });
+      });
+      break;
+    }
+    case ControlKind::TextBox: {
+      auto* t = static_cast<TextBox*>(c);
+      connect(static_cast<QLineEdit*>(w), &QLineEdit::textEdited, this, [this, t](const QString& text) {
+        dispatch([t, text] { t->Text = text; });
+      });
+      break;
+    }
+    case ControlKind::ListBox: case ControlKind::FileListBox: case ControlKind::DirListBox: {
+      auto* l = static_cast<ListBox*>(c);
+      connect(static_cast<QListWidget*>(w), &QListWidget::currentRowChanged, this, [this, l](int row) {
+        dispatch([l, row] { l->ListIndex = row; });
+      });
+      connect(static_cast<QListWidget*>(w), &QListWidget::itemDoubleClicked, this, [this, l] {
+        dispatch([l] { l->raiseDblClick(); });
+      });
+      break;
+    }
+    case ControlKind::ComboBox: case ControlKind::DriveListBox: {
+      auto* l = static_cast<ListBox*>(c);
+      connect(static_cast<QComboBox*>(w), &QComboBox::activated, this, [this, l](int row) {
+        dispatch([l, row] { l->ListIndex = row; });
+      });
+      break;
+    }
+    default: break;
+  }
+}
+
+}  // namespace qp

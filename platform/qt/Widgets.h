@@ -1,0 +1,81 @@
+#pragma once
+// The widgets that draw a control themselves: labels, shapes, lines, images and picture boxes.
+// The rest of the controls show as Qt's own widgets (see FormView).
+#include <QColor>
+#include <QPointF>
+#include <QWidget>
+
+#include "platform/Controls.h"
+
+namespace qp {
+
+class PictureBox;
+
+inline QColor toQColor(Colour c) { return QColor(redOf(c), greenOf(c), blueOf(c)); }
+
+class LabelWidget : public QWidget {
+ public:
+  LabelWidget(Label& c, QWidget* parent);
+
+ protected:
+  void paintEvent(QPaintEvent*) override;
+
+ private:
+  Label& c_;
+};
+
+class ShapeWidget : public QWidget {
+ public:
+  ShapeWidget(Shape& c, QWidget* parent);
+
+ protected:
+  void paintEvent(QPaintEvent*) override;
+
+ private:
+  Shape& c_;
+};
+
+// A line covers the box around its two ends and lets the pointer through to what lies beneath.
+class LineWidget : public QWidget {
+ public:
+  LineWidget(Line& c, QWidget* parent);
+  // The box in the parent's pixels, from the line's ends.
+  QRect box() const;
+
+ protected:
+  void paintEvent(QPaintEvent*) override;
+
+ private:
+  Line& c_;
+};
+
+class ImageWidget : public QWidget {
+ public:
+  ImageWidget(Image& c, QWidget* parent);
+  qint64 shownKey = 0;  // the picture last painted, so that a new one is noticed
+
+ protected:
+  void paintEvent(QPaintEvent*) override;
+
+ private:
+  Image& c_;
+};
+
+// Shows the picture box's bitmap, inside its border.
+class PictureWidget : public QWidget {
+ public:
+  PictureWidget(PictureBox& c, QWidget* parent);
+  // Where the bitmap's top-left pixel lies in the widget.
+  QPoint bitmapOrigin() const;
+  // A point of the widget in the picture box's present scale.
+  QPointF toScale(QPointF widgetPos) const;
+  QSize shownSize;  // size of the bitmap last painted, so that a new size repaints all
+
+ protected:
+  void paintEvent(QPaintEvent* e) override;
+
+ private:
+  PictureBox& c_;
+};
+
+}  // namespace qp

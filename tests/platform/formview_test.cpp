@@ -1,0 +1,215 @@
+// The desktop view of a form, driven through real Qt widgets on the offscreen platform.
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QUrl>
+
+#include "platform/Controls.h"
+#include "platform/Headless.h"
+#include "platform/qt/FormView.h"
+#include "platform/qt/Keys.h"
+#include "surface/PictureBox.h"
+
+using namespace qp;
+
+namespace {
+
+struct Canvas : Form {
+  explicit Canvas(Runtime& rt) : Form(rt, "frmCanvas") {
+    Width = 9000;
+    Height = 7500;
+    PicPaint.BorderStyle = 0;
+    PicPaint.Move(1500, 750, 3000, 1500);  // 200 x 100 pixels at (100, 50)
+    vVal1.Move(6000, 0, 255, 3000);
+    vVal1.Min = 120;
+    vVal1.Max = 8;
+    vVal1.Value = 24;
+    vVal1.SmallChange = 2;
+    lHelp.Move(150, 300, 1500, 450);
+  }
+  PictureBox PicPaint{this, nullptr, "PicPaint"};
+  VScrollBar vVal1{this, nullptr, "vVal1"};
+  Label lHelp{this, nullptr, "lHelp"};
+  CheckBox ckHold{this, nullptr, "ckHold"};
+  Menu mnuToolz{this, nullptr, "mnuToolz", "&Toolz"};
+  Menu mPencil{this, &mnuToolz, "mPencil", "Pencil"};
+  Menu mSep{this, &mnuToolz, "mSep", "-"};
+  Menu mEraser{this, &mnuToolz, "mEraser", "Eraser"};
+};
+
+struct FormViewTest : ::testing::Test {
+  HeadlessRuntime h;
+  Canvas f{h.rt()};
+  FormView view{f};
+  struct Press {
+    int button, shift;
+    float x, y;
+  };
+  std::vector<Press> presses;
+
+  void press(QWidget* w, QPoint at, Qt::MouseButton b, Qt::KeyboardModifiers mods = {}) {
+    QMouseEvent e(QEvent::MouseButtonPress, QPointF(at), w->mapToGlobal(QPointF(at)), b, b, mods);
+    QApplication::sendEvent(w, &e);
+  }
+};
+
+TEST_F(FormViewTest, WidgetsSitWhereTheControlsAreInPixels) {
+  QWidget* pic = view.widgetFor(&f.PicPaint);
+  ASSERT_NE(pic, nullptr);
+  EXPECT_EQ(pic->geometry(), QRect(100, 50, 200, 100));
+  EXPECT_EQ(view.widgetFor(&f.lHelp)->geometry(), QRect(10, 20, 100, 30));
+  // Later writes reach the widgets at the next sync.
+  f.lHelp.Visible = false;
+  f.PicPaint.Left = 3000;
+  view.sync();
+  EXPECT_TRUE(view.widgetFor(&f.lHelp)->isHidden());
+  EXPECT_EQ(pic->x(), 200);
+  f.Caption = "Untitled - Quillora Pro";
+  view.sync();
+  EXPECT_EQ(view.window().windowTitle(), "Untitled - Quillora Pro");
+}
+
+TEST_F(FormViewTest, PressOnPictureReachesMouseDownInItsScale) {
+  f.PicPaint.MouseDown = [&](int b, int s, Single x, Single y) { presses.push_back({b, s, x, y}); };
+  QWidget* pic = view.widgetFor(&f.PicPaint);
+  press(pic, {10, 20}, Qt::LeftButton);
+  f.PicPaint.ScaleMode = 3;  // pixels
+  view.sync();
+  press(pic, {10, 20}, Qt::RightButton, Qt::ControlModifier | Qt::ShiftModifier);
+  ASSERT_EQ(presses.size(), 2u);
+  EXPECT_EQ(presses[0].button, vbLeftButton);
+  EXPECT_EQ(presses[0].shift, 0);
+  EXPECT_FLOAT_EQ(presses[0].x, 150);  // twips
+  EXPECT_FLOAT_EQ(presses[0].y, 300);
+  EXPECT_EQ(presses[1].button, vbRightButton);
+  EXPECT_EQ(presses[1].shift, vbShiftMask | vbCtrlMask);
+  EXPECT_FLOAT_EQ(presses[1].x, 10);
+  EXPECT_FLOAT_EQ(presses[1].y, 20);
+}
+
+TEST_F(FormViewTest, ErrorInAHandlerStaysInsideTheView) {
+  f.PicPaint.MouseDown = [&](int, int, Single, Single) { raiseError(RuntimeError::Overflow); };
+  EXPECT_NO_THROW(press(view.widgetFor(&f.PicPaint), {1, 1}, Qt::LeftButton));
+}
+
+TEST_F(FormViewTest, DrawingOnThePictureIsShown) {
+  f.PicPaint.Line(0, 0, 1500, 0, 0x0000FF);
+  view.sync();
+  const QImage shot = view.widgetFor(&f.PicPaint)->grab().toImage();
+  EXPECT_EQ(QColor(shot.pixel(50, 0)), QColor(255, 0, 0));
+  EXPECT_EQ(QColor(shot.pixel(50, 50)), QColor(255, 255, 255));
+}
+
+TEST_F(FormViewTest, MenuActionsRaiseClickAndFollowEnabled) {
+  int pencil = 0;
+  f.mPencil.Click = [&] { ++pencil; };
+  QAction* a = view.actionFor(&f.mPencil);
+  ASSERT_NE(a, nullptr);
+  EXPECT_EQ(a->text(), "Pencil");
+  EXPECT_TRUE(view.actionFor(&f.mSep)->isSeparator());
+  a->trigger();
+  EXPECT_EQ(pencil, 1);
+  f.mPencil.Enabled = false;
+  f.mEraser.Caption = "Eraser!";
+  view.sync();
+  EXPECT_FALSE(a->isEnabled());
+  EXPECT_EQ(view.actionFor(&f.mEraser)->text(), "Eraser!");
+  a->trigger();
+  EXPECT_EQ(pencil, 1);
+}
+
+TEST_F(FormViewTest, ScrollBarWidgetDrivesValueBothWays) {
+  auto* bar = qobject_cast<QScrollBar*>(view.widgetFor(&f.vVal1));
+  ASSERT_NE(bar, nullptr);
+  int changes = 0;
+  f.vVal1.Change = [&] { ++changes; };
+  EXPECT_EQ(bar->value(), 24);
+  // Min 120 above Max 8: a step toward the bar's top end raises the value.
+  bar->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+  EXPECT_EQ(f.vVal1.Value, 26);
+  bar->triggerAction(QAbstractSlider::SliderSingleStepSub);
+  EXPECT_EQ(f.vVal1.Value, 24);
+  EXPECT_EQ(changes, 2);
+  f.vVal1.Value = 100;
+  view.sync();
+  EXPECT_EQ(bar->value(), 100);
+  EXPECT_EQ(changes, 3) << "showing the program's value raises nothing more";
+}
+
+TEST_F(FormViewTest, CheckBoxClickGoesThroughTheControl) {
+  auto* box = qobject_cast<QCheckBox*>(view.widgetFor(&f.ckHold));
+  ASSERT_NE(box, nullptr);
+  int clicks = 0;
+  f.ckHold.Click = [&] { ++clicks; };
+  box->click();
+  EXPECT_EQ(f.ckHold.Value, 1);
+  EXPECT_EQ(clicks, 1);
+  f.ckHold.Value = 2;
+  view.sync();
+  EXPECT_EQ(box->checkState(), Qt::PartiallyChecked);
+}
+
+TEST_F(FormViewTest, KeysGoToTheFormFirstWithKeyPreview) {
+  std::vector<std::string> order;
+  f.KeyPreview = true;
+  f.KeyDown = [&](int& code, int shift) {
+    order.push_back("form " + std::to_string(code) + "/" + std::to_string(shift));
+  };
+  f.PicPaint.KeyDown = [&](int& code, int) { order.push_back("pic " + std::to_string(code)); };
+  f.PicPaint.KeyPress = [&](int& ascii) { order.push_back("press " + std::to_string(ascii)); };
+  f.Show();
+  view.sync();
+  QWidget* pic = view.widgetFor(&f.PicPaint);
+  QApplication::setActiveWindow(&view.window());
+  pic->setFocus();
+  if (QApplication::focusWidget() != pic) GTEST_SKIP() << "this platform gives no keyboard focus";
+  EXPECT_EQ(f.ActiveControl(), &f.PicPaint);
+  QKeyEvent down(QEvent::KeyPress, Qt::Key_Z, Qt::ControlModifier, QString(QChar(26)));
+  QApplication::sendEvent(pic, &down);
+  EXPECT_EQ(order, (std::vector<std::string>{"form 90/2", "pic 90", "press 26"}));
+}
+
+TEST(KeysTest, QtKeysBecomeTheRuntimesCodes) {
+  EXPECT_EQ(keyCodeFor(Qt::Key_A, {}), 65);
+  EXPECT_EQ(keyCodeFor(Qt::Key_7, {}), 55);
+  EXPECT_EQ(keyCodeFor(Qt::Key_7, Qt::KeypadModifier), 103);
+  EXPECT_EQ(keyCodeFor(Qt::Key_Plus, Qt::KeypadModifier), 107);
+  EXPECT_EQ(keyCodeFor(Qt::Key_Minus, Qt::KeypadModifier), 109);
+  EXPECT_EQ(keyCodeFor(Qt::Key_F1, {}), 112);
+  EXPECT_EQ(keyCodeFor(Qt::Key_F12, {}), 123);
+  EXPECT_EQ(keyCodeFor(Qt::Key_Left, {}), 37);
+  EXPECT_EQ(keyCodeFor(Qt::Key_Down, {}), 40);
+  EXPECT_EQ(keyCodeFor(Qt::Key_Enter, Qt::KeypadModifier), 13);
+  EXPECT_EQ(keyCodeFor(Qt::Key_Exclam, Qt::ShiftModifier), 49) << "Shift+1 is still the key 1";
+  EXPECT_EQ(keyCodeFor(Qt::Key_CapsLock, {}), 20);
+  EXPECT_EQ(keyCodeFor(Qt::Key_Delete, {}), 46);
+  EXPECT_EQ(shiftStateFor(Qt::ShiftModifier | Qt::AltModifier), vbShiftMask | vbAltMask);
+}
+
+TEST_F(FormViewTest, DroppedFilesReachOLEDragDrop) {
+  QStringList got;
+  f.PicPaint.OLEDragDrop = [&](const QStringList& files, int, int, Single, Single) { got = files; };
+  QWidget* pic = view.widgetFor(&f.PicPaint);
+  QMimeData data;
+  data.setUrls({QUrl::fromLocalFile("/tmp/a.bmp"), QUrl("https://example.org/b.bmp")});
+  QDragEnterEvent refused(QPoint(5, 5), Qt::CopyAction, &data, Qt::NoButton, Qt::NoModifier);
+  refused.ignore();
+  QApplication::sendEvent(pic, &refused);
+  EXPECT_FALSE(refused.isAccepted()) << "a picture box takes drops only when OLEDropEnabled";
+  f.PicPaint.OLEDropEnabled = true;
+  view.sync();
+  QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::NoButton, Qt::NoModifier);
+  QApplication::sendEvent(pic, &enter);
+  EXPECT_TRUE(enter.isAccepted());
+  QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::NoButton, Qt::NoModifier);
+  QApplication::sendEvent(pic, &drop);
+  EXPECT_EQ(got, QStringList{"/tmp/a.bmp"});
+}
+
+}  // namespace
