@@ -1,0 +1,173 @@
+// The road of a stroke: the common steps of press, move and release, whatever the mode.
+#include "ProgramFixture.h"
+#include "core/Pipeline.h"
+#include "core/ToolTable.h"
+
+namespace qp::test {
+
+class Pipeline : public ProgramTest {
+ protected:
+  void SetUp() override {
+    ProgramTest::SetUp();
+    choose(f().mSingle);  // a mode whose hooks we watch below
+    program->tools.set(1, {[this](Session&, int, Single x, Single y) { calls.push_back({'P', x, y}); },
+                           [this](Session&, int, Single x, Single y) { calls.push_back({'M', x, y}); },
+                           [this](Session&, int, Single x, Single y) { calls.push_back({'R', x, y}); }});
+  }
+  struct Call { char what; Single x, y; };
+  std::vector<Call> calls;
+};
+
+TEST_F(Pipeline, PressRecordsWhereAndSnapshotsBeforeTheTool) {
+  f().PicPaint.Line(0, 0, 600, 0, 0x00FFFF);  // drawn, not yet baked
+  press(151.5f, 300.4f);
+  ASSERT_EQ(calls.size(), 1u);
+  EXPECT_EQ(calls[0].what, 'P');
+  EXPECT_FLOAT_EQ(f().PointerX, 151.5f);  // X keeps its fraction
+  EXPECT_EQ(f().PointerY, 300);           // Y is rounded to whole twips
+  EXPECT_EQ(f().lXb.ToolTipText.get(), "Mouse Down X : 10");
+  EXPECT_EQ(f().lYb.ToolTipText.get(), "Mouse Down Y : 20");
+  EXPECT_EQ(f().DownButtonX, 10);
+  EXPECT_EQ(m().CurrentFile, "Untitled.bmp");
+  // The snapshot holds the line: a quick undo after the press keeps it.
+  f().PicPaint.Line(0, 150, 600, 150, 0xFF0000);
+  release(10, 10);
+  release(10, 10, vbRightButton);
+  EXPECT_EQ(pixel(20, 0), 0x00FFFF);
+  EXPECT_EQ(pixel(20, 10), 0x000000);
+}
+
+TEST_F(Pipeline, MoveWithoutTheLeftButtonOnlyReports) {
+  move(300, 450, 0);
+  move(300, 450, vbRightButton);
+  move(300, 450, vbLeftButton | vbRightButton);
+  EXPECT_TRUE(calls.empty());
+  EXPECT_EQ(f().lX.Caption.get(), "X : 20");
+  EXPECT_EQ(f().lY.Caption.get(), "Y : 30");
+  move(315, 465);
+  ASSERT_EQ(calls.size(), 1u);
+  EXPECT_EQ(calls[0].what, 'M');
+}
+
+TEST_F(Pipeline, GuidesFollowThePointerWhileShown) {
+  f().lnX.Visible = true;
+  move(900, 600, 0);
+  EXPECT_EQ(f().lnX.X1.get(), 900);
+  EXPECT_EQ(f().lnY.Y2.get(), 600);
+  EXPECT_EQ(f().lLnX.Left.get(), 1000);
+  EXPECT_EQ(f().lLnX.Top.get(), 1000);
+  EXPECT_EQ(f().lLnY.Caption.get(), "Y : 40");
+  press(900, 600);  // a press puts the guides away
+  EXPECT_FALSE(f().lnX.Visible);
+}
+
+TEST_F(Pipeline, ReleaseRunsTheToolThenTheClosingSteps) {
+  press(150, 150);
+  f().tGrad.Enabled = true;
+  f().tSphere.Enabled = true;
+  f().PicPaint.ScaleWidth = f().PicPaint.Height;  // as Mirror Lines leaves it during a stroke
+  release(307.5f, 450);
+  ASSERT_EQ(calls.back().what, 'R');
+  EXPECT_EQ(f().lXb.ToolTipText.get(), "Mouse Down X : 10   Mouse Up X : 20.5");
+  EXPECT_FALSE(f().tGrad.Enabled);
+  EXPECT_FALSE(f().tSphere.Enabled);
+  EXPECT_EQ(f().PicPaint.ScaleWidth.get(), f().PicPaint.Width.get());
+  EXPECT_EQ(f().AutoDrawX, 308);  // 307.5 rounds to even
+  EXPECT_EQ(f().AutoDrawY, 450);
+  EXPECT_FLOAT_EQ(f().PicPaint.CurrentX, 207.5f);
+}
+
+TEST_F(Pipeline, AFailingReleaseStillClosesTheStroke) {
+  program->tools.set(1, {{}, {}, [](Session&, int, Single, Single) { raiseError(RuntimeError::Overflow); }});
+  f().tGrad.Enabled = true;
+  release(150, 150);
+  EXPECT_FALSE(f().tGrad.Enabled);
+}
+
+TEST_F(Pipeline, AFailingPressEndsOnlyThatPress) {
+  program->tools.set(1, {[](Session&, int, Single, Single) { raiseError(RuntimeError::Overflow); }, {}, {}});
+  press(150, 150);
+  EXPECT_EQ(f().DownButtonX, 10);  // the common steps before the tool ran
+  press(300, 300);
+  EXPECT_EQ(f().DownButtonX, 20);
+}
+
+TEST_F(Pipeline, RightPressDoesNothingButItsFirstStep) {
+  f().lTell.Caption = "Maximum";
+  press(150, 150, vbRightButton);
+  EXPECT_TRUE(calls.empty());
+  EXPECT_EQ(f().lTell.Caption.get(), "");
+  EXPECT_EQ(f().lXb.ToolTipText.get(), "");
+}
+
+TEST_F(Pipeline, RightClickUndoesOneLevelOnly) {
+  press(0, 0);
+  f().PicPaint.Line(0, 0, 600, 0, 0x0000FF);
+  release(0, 0);
+  press(0, 150);
+  f().PicPaint.Line(0, 150, 600, 150, 0x00FF00);
+  release(0, 150);
+  release(0, 0, vbRightButton);
+  EXPECT_EQ(pixel(20, 10), 0x000000);  // the last stroke is gone
+  EXPECT_EQ(pixel(20, 0), 0x0000FF);   // the one before stays
+  release(0, 0, vbRightButton);
+  EXPECT_EQ(pixel(20, 0), 0x0000FF);   // a second right click changes nothing
+}
+
+TEST_F(Pipeline, CtrlRightPicksTheColourAndSkipsTheClosingSteps) {
+  f().PicPaint.Line(0, 300, 600, 300, 0x123456);
+  f().CtrlDown = -1;
+  f().tGrad.Enabled = true;
+  release(150, 300, vbRightButton);
+  EXPECT_EQ(m().ForeClr, 0x123456);
+  EXPECT_EQ(f().lForclr.BackColor.get(), 0x123456);
+  EXPECT_EQ(f().lColor.BackColor.get(), 0x123456);
+  EXPECT_EQ(f().shErSize.FillColor.get(), 0x123456);
+  EXPECT_TRUE(f().tGrad.Enabled);
+  EXPECT_EQ(pixel(10, 20), 0x123456);  // the picture is left alone
+  // Off the canvas the pick gives -1, stored as it is.
+  release(-150, -150, vbRightButton);
+  EXPECT_EQ(m().ForeClr, -1);
+}
+
+TEST_F(Pipeline, HiddenPointerComesBackAtAnyRelease) {
+  f().ckHide.Value = 1;
+  press(150, 150);
+  EXPECT_EQ(f().PicPaint.MousePointer.get(), 99);
+  release(150, 150, vbRightButton);
+  EXPECT_EQ(f().PicPaint.MousePointer.get(), 2);
+}
+
+TEST_F(Pipeline, ReleaseAfterAModeChangeRunsTheNewModesRelease) {
+  press(150, 150);
+  std::vector<char> other;
+  program->tools.set(3, {{}, {}, [&](Session&, int, Single, Single) { other.push_back('R'); }});
+  m().PaintMode = 3;
+  release(150, 150);
+  EXPECT_EQ(other.size(), 1u);
+  EXPECT_EQ(calls.back().what, 'P');
+}
+
+TEST_F(Pipeline, IntervalBarRetunesThePaintTimersUnlessAutoDrawRuns) {
+  f().vInt.Value = 75;
+  for (Timer* t : {&f().tAir, &f().tDraw, &f().tGrdTx, &f().tBrushTime, &f().tBrush, &f().tSphere, &f().tPix})
+    EXPECT_EQ(t->Interval.get(), 75);
+  EXPECT_EQ(f().lStats.Caption.get(), "Interval : 75");
+  EXPECT_EQ(f().fInt.ToolTipText.get(), "Interval : 75");
+  f().tDraw.Enabled = true;
+  f().vInt.Value = 90;
+  EXPECT_EQ(f().tAir.Interval.get(), 75);
+}
+
+TEST_F(Pipeline, ColourStepFollowsTheColourMode) {
+  f().lForclr.BackColor = 0x0000FF;
+  f().vColmode.Value = 0;
+  ColourStep(s());
+  EXPECT_EQ(m().ForeClr, 0x0000FF);
+  f().vColmode.Value = 3;
+  f().tGrad.Enabled = false;
+  ColourStep(s());
+  EXPECT_TRUE(f().tGrad.Enabled);
+}
+
+}  // namespace qp::test
