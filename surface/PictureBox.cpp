@@ -15,7 +15,10 @@ QImage ImageHandle::get() const { return owner_->image_; }
 ImageHandle::operator QImage() const { return get(); }
 
 PictureProp& PictureProp::operator=(const QImage& pic) {
-  pic_ = pic;  // shared, not copied: the surface that draws next detaches its own bitmap
+  QImage next = pic;  // pic may be this very picture
+  QImage old = std::move(pic_);
+  pic_ = std::move(next);  // shared, not copied: the surface that draws next detaches its own bitmap
+  owner_->recycle(std::move(old));
   owner_->pictureAssigned();
   return *this;
 }
@@ -135,6 +138,7 @@ void PictureBox::resizeBitmap() {
       std::memcpy(next.scanLine(y), image_.constScanLine(y), static_cast<size_t>(w) * 4);
   }
   image_ = std::move(next);
+  spare_ = QImage();
   dirty_ = image_.rect();
 }
 
@@ -152,6 +156,9 @@ void PictureBox::clearTo(Colour c) {
     image_ = pic;
   } else {
     if (image_.isDetached()) {
+      image_.fill(raster::toPixel(c));
+    } else if (spare_.size() == image_.size()) {
+      image_ = std::move(spare_);
       image_.fill(raster::toPixel(c));
     } else {
       // Still shared with a picture: a fresh bitmap is cheaper than a detach copy to overwrite.
@@ -180,6 +187,7 @@ void PictureBox::Cls() {
 
 QImage& PictureBox::mutableBitmap() {
   if (!image_.isNull()) {
+    editBitmap();
     image_.bits();
     dirty_ = image_.rect();
   }
@@ -188,7 +196,21 @@ QImage& PictureBox::mutableBitmap() {
 
 QImage& PictureBox::editBitmap() {
   if (image_.isNull()) raiseError(RuntimeError::InvalidCall, "Invalid procedure call");
+  // The one copy after `Picture = Image`: into the recycled buffer when there is one.
+  if (!image_.isDetached() && spare_.size() == image_.size()) {
+    const size_t rowBytes = static_cast<size_t>(image_.width()) * 4;
+    for (int y = 0; y < image_.height(); ++y)
+      std::memcpy(spare_.scanLine(y), image_.constScanLine(y), rowBytes);
+    image_ = std::move(spare_);
+    spare_ = QImage();
+  }
   return image_;
+}
+
+void PictureBox::recycle(QImage&& old) {
+  if (old.isDetached() && old.format() == QImage::Format_RGB32 && old.size() == image_.size() &&
+      old.constBits() != image_.constBits())
+    spare_ = std::move(old);
 }
 
 void PictureBox::markDirty(const QRect& pixels) { dirty_ |= pixels & image_.rect(); }

@@ -153,8 +153,12 @@ class PictureBox : public VisualControl {
   // Integer pixel of a coordinate in the present scale (rounded, clamped, NaN raises).
   int pixelX(Single x) const;
   int pixelY(Single y) const;
+  // Keeps a picture's pixels that nobody else holds, so the next detach copies into memory that is
+  // already mapped instead of a fresh allocation.
+  void recycle(QImage&& old);
 
   QImage image_;
+  QImage spare_;
   QRect dirty_;
   bool refreshRequested_ = false;
 };

@@ -169,3 +169,37 @@ TEST_F(BitmapTest, DirtyRectangleCoversOnlyWhatWasDrawn) {
 
 }  // namespace
 }  // namespace qp::test
+
+namespace qp::test {
+namespace {
+
+// Baking again and again (every undo snapshot does it) keeps reusing the same two buffers, and a
+// picture assigned to itself stays what it was.
+TEST_F(BitmapTest, RepeatedBakingReusesBuffersAndKeepsPictures) {
+  PictureBox& b = box(32, 32, 3, 0x000000);
+  b.Picture = b.Image;
+  b.PSet(1, 1, 0x0000FF);
+  const uchar* first = b.bitmap().constBits();
+  b.Picture = b.Image;
+  b.PSet(2, 2, 0x00FF00);
+  const uchar* second = b.bitmap().constBits();
+  b.Picture = b.Image;
+  b.PSet(3, 3, 0xFF0000);
+  EXPECT_EQ(b.bitmap().constBits(), first);
+  b.Picture = b.Image;
+  b.PSet(4, 4, 0xFFFFFF);
+  EXPECT_EQ(b.bitmap().constBits(), second);
+  // Each baked picture holds everything drawn before it, and nothing after.
+  EXPECT_EQ(b.Picture.get().pixel(3, 3) & 0xFFFFFF, 0x0000FFu);
+  EXPECT_EQ(b.Picture.get().pixel(4, 4) & 0xFFFFFF, 0u);
+  EXPECT_EQ(px(b, 1, 1), 0x0000FF);
+  EXPECT_EQ(px(b, 4, 4), 0xFFFFFF);
+
+  b.Picture = b.Picture;
+  b.Cls();
+  EXPECT_EQ(px(b, 3, 3), 0xFF0000);
+  EXPECT_EQ(px(b, 4, 4), 0x000000);
+}
+
+}  // namespace
+}  // namespace qp::test
