@@ -1,0 +1,145 @@
+// The colour walks of Rainbow and Glow, the Transient Color Generator and the Gradient ramp.
+#include <cstdlib>
+
+#include "color/ColourEngine.h"
+#include "support/ProgramFixture.h"
+
+namespace qp::test {
+namespace {
+
+struct Rgb {
+  int r, g, b;
+  bool operator==(const Rgb&) const = default;
+};
+
+class ColourEngineTest : public ProgramTest {
+ protected:
+  Rgb running() { return {m().ClrRed, m().ClrGreen, m().ClrBlue}; }
+  void setRunning(Rgb c) {
+    m().ClrRed = c.r;
+    m().ClrGreen = c.g;
+    m().ClrBlue = c.b;
+  }
+  // The colour the tools draw with, the two colour boxes and the hidden bars agree with the walk.
+  void expectShown(Rgb c) {
+    const Colour rgb = RGB(c.r, c.g, c.b);
+    EXPECT_EQ(m().ForeClr, rgb);
+    EXPECT_EQ(f().lForclr.BackColor, rgb);
+    EXPECT_EQ(f().lColor.BackColor, rgb);
+    EXPECT_EQ(f().vRed.Value, c.r);
+    EXPECT_EQ(f().vBlu.Value, c.b);
+  }
+};
+
+TEST_F(ColourEngineTest, RainbowMovesOneComponentByTheVarianceWithinItsFloorAndCeiling) {
+  f().vColmode.Value = 1;
+  f().vVar.Value = 80;
+  int moved = 0;
+  for (int i = 0; i < 300; ++i) {
+    const Rgb before = running();
+    StepDrawColor(s());
+    const Rgb after = running();
+    const int dr = after.r - before.r, dg = after.g - before.g, db = after.b - before.b;
+    EXPECT_LE((dr != 0) + (dg != 0) + (db != 0), 1);
+    for (int d : {dr, dg, db}) EXPECT_TRUE(d == 0 || std::abs(d) == 80);
+    // From 0 only steps up are possible; a step down that would end under 20 is refused.
+    for (int v : {after.r, after.g, after.b}) EXPECT_TRUE(v == 0 || v == 80 || v == 160 || v == 240) << v;
+    moved += after != before;
+    expectShown(after);
+  }
+  EXPECT_GT(moved, 30);
+}
+
+TEST_F(ColourEngineTest, RainbowRefusesAStepPastTheCeiling) {
+  int kept = 0;
+  for (int i = 0; i < 60; ++i) {
+    setRunning({250, 250, 250});
+    StepRainbowColor(s(), 10);
+    const Rgb c = running();
+    for (int v : {c.r, c.g, c.b}) EXPECT_TRUE(v == 250 || v == 240) << v;
+    kept += c == Rgb{250, 250, 250};
+  }
+  EXPECT_GT(kept, 10);  // every step up was refused, about half of all steps
+}
+
+TEST_F(ColourEngineTest, GlowStaysInItsHueFamilyAndLeavesOthersUntilAStepSucceeds) {
+  f().vColors.Value = 1;  // red
+  f().vColmode.Value = 2;
+  setRunning({250, 100, 70});
+  // At 250 a step up of 10 is refused and writes nothing; the first step down clears green, blue.
+  for (int i = 0; i < 100 && m().ClrRed == 250; ++i) {
+    StepGlowColor(s(), 10);
+    if (m().ClrRed == 250) EXPECT_EQ(running(), (Rgb{250, 100, 70}));
+  }
+  ASSERT_EQ(running(), (Rgb{240, 0, 0}));
+  for (int i = 0; i < 200; ++i) {
+    StepGlowColor(s(), 30);
+    EXPECT_GE(m().ClrRed, 20);
+    EXPECT_LE(m().ClrRed, 255);
+    EXPECT_EQ(m().ClrGreen, 0);
+    expectShown(running());
+  }
+  f().vColors.Value = 5;  // cyan: green and blue from blue
+  StepGlowColor(s(), 30);
+  StepGlowColor(s(), 30);
+  EXPECT_EQ(m().ClrRed, 0);
+  EXPECT_EQ(m().ClrGreen, m().ClrBlue);
+}
+
+TEST_F(ColourEngineTest, TransientGeneratorShakesTheComponentsDuringAStrokeOnly) {
+  choose(f().mPencil);
+  f().vColmode.Value = 2;
+  ASSERT_TRUE(f().ckDcolz.Visible);
+  f().ckDcolz.Value = 1;
+  setRunning({120, 120, 120});
+  press(1500, 1500);
+  const Colour fore = m().ForeClr;
+  const Rgb start = running();
+  ASSERT_TRUE(f().tDclrz.Enabled);
+  headless.loop.advance(500);  // 50 ticks
+  EXPECT_NE(running(), start);
+  EXPECT_EQ(m().ForeClr, fore);  // the draw colour moves only at the next draw step
+  const Rgb c = running();
+  EXPECT_EQ(m().TransientClr, RGB(c.r, c.g, c.b));
+  for (int v : {c.r, c.g, c.b}) {
+    EXPECT_GE(v, 20);
+    EXPECT_LE(v, 255);
+  }
+  release(1500, 1500);
+  EXPECT_FALSE(f().tDclrz.Enabled);
+  headless.loop.advance(500);
+  EXPECT_EQ(running(), c);
+}
+
+TEST_F(ColourEngineTest, GradientRampsByTimerFromPhaseFiveToFullAndAgain) {
+  choose(f().mPencil);
+  f().vColors.Value = 3;  // blue
+  f().vColmode.Value = 3;
+  press(1500, 1500);
+  ASSERT_TRUE(f().tGrad.Enabled);
+  for (int tick = 1; tick <= 53; ++tick) {
+    headless.loop.advance(1);
+    const int phase = tick <= 51 ? 5 * tick : 5 * (tick - 51);  // 5 .. 255, then 5, 10
+    ASSERT_EQ(m().GradPhase, phase) << tick;
+    EXPECT_EQ(m().ForeClr, RGB(0, 0, phase));
+    EXPECT_EQ(m().BackClr, RGB(0, 0, phase));  // the second colour runs the ramp too
+  }
+  release(1500, 1500);
+  EXPECT_FALSE(f().tGrad.Enabled);
+  headless.loop.advance(20);
+  EXPECT_EQ(m().GradPhase, 10);
+}
+
+TEST_F(ColourEngineTest, PencilStrokePaintsTheSteppedColours) {
+  choose(f().mPencil);
+  f().vColmode.Value = 1;
+  f().vVar.Value = 40;
+  press(1500, 1500);
+  for (int x = 1515; x <= 3000; x += 15) move(x, 1500);
+  // The last segment is drawn in the colour of the last step.
+  EXPECT_EQ(pixel(199, 100), m().ForeClr);
+  release(3000, 1500);
+}
+
+}  // namespace
+}  // namespace qp::test

@@ -1,0 +1,135 @@
+// Picking colours: the swatch, the Color Option box, the swap, the number keys, the canvas pick.
+#include "color/ColourPickers.h"
+#include "surface/Device.h"
+#include "support/ProgramFixture.h"
+
+namespace qp::test {
+namespace {
+
+class ColourPickersTest : public ProgramTest {
+ protected:
+  // Moves over the swatch at a pixel of its chart.
+  void hoverSwatch(int x, int y) { f().pColor.raiseMouseMove(0, 0, x * 15.0f + 7, y * 15.0f + 7); }
+};
+
+TEST_F(ColourPickersTest, SwatchChartRunsFromLightToDarkWithHuesAcross) {
+  const PictureBox& p = f().pColor;
+  ASSERT_GT(p.pixelWidth(), 20);
+  const int w = p.pixelWidth(), h = p.pixelHeight(), mid = h / 2;
+  EXPECT_EQ(GetPixel(p, 0, 0), 0xFFFFFF);
+  EXPECT_EQ(GetPixel(p, 0, h - 1), 0x000000);
+  const Colour left = GetPixel(p, 0, mid);  // red at the left, strongest halfway down
+  EXPECT_GT(redOf(left), 230);
+  EXPECT_LT(greenOf(left) + blueOf(left), 20);
+  EXPECT_NE(GetPixel(p, w / 3, mid), GetPixel(p, 2 * w / 3, mid));
+  const Colour gray = GetPixel(p, w - 1, mid);  // the gray ramp on the right
+  EXPECT_EQ(redOf(gray), blueOf(gray));
+}
+
+TEST_F(ColourPickersTest, SwatchFollowsThePointerUnlessCtrlIsHeld) {
+  hoverSwatch(40, 20);
+  const Colour picked = GetPixel(f().pColor, 40, 20);
+  EXPECT_EQ(f().lColor.BackColor, picked);
+  EXPECT_EQ(f().shErSize.FillColor, picked);
+  EXPECT_EQ(f().shErSize.BorderColor, picked);
+  EXPECT_NE(m().ForeClr, picked);  // the colour only waits in the box
+  f().CtrlDown = -1;
+  hoverSwatch(200, 40);
+  EXPECT_EQ(f().lColor.BackColor, picked);
+}
+
+TEST_F(ColourPickersTest, SwatchAndColorOptionBoxGiveTheirColourToForeOrBack) {
+  const Colour back = m().BackClr;
+  hoverSwatch(100, 10);
+  const Colour picked = f().lColor.BackColor;
+  f().pColor.raiseMouseDown(vbLeftButton, 0, 1500, 150);
+  EXPECT_EQ(m().ForeClr, picked);
+  EXPECT_EQ(f().lForclr.BackColor, picked);
+  EXPECT_EQ(f().PicPaint.ForeColor, picked);
+  EXPECT_EQ(m().BackClr, back);
+  f().pColor.raiseMouseUp(vbRightButton, 0, 1500, 150);
+  EXPECT_EQ(m().BackClr, picked);
+  EXPECT_EQ(f().lBkclr.BackColor, picked);
+
+  f().lColor.BackColor = 0x123456;
+  f().lColor.raiseMouseDown(vbRightButton, 0, 10, 10);  // the right button acts at its release
+  EXPECT_EQ(m().ForeClr, picked);
+  f().lColor.raiseMouseUp(vbRightButton, 0, 10, 10);
+  EXPECT_EQ(f().lBkclr.BackColor, 0x123456);
+  EXPECT_EQ(m().BackClr, 0x123456);
+  f().lColor.raiseMouseDown(vbLeftButton, 0, 10, 10);
+  EXPECT_EQ(f().lForclr.BackColor, 0x123456);
+  EXPECT_EQ(m().ForeClr, 0x123456);
+}
+
+TEST_F(ColourPickersTest, PickersRestInTransparentMode) {
+  choose(f().mBluScrn);
+  ASSERT_EQ(m().PaintMode, 26);
+  const Colour fore = m().ForeClr;
+  const QString help = f().lHelp.Caption;
+  f().lColor.BackColor = 0x00AA00;
+  f().pColor.raiseMouseDown(vbLeftButton, 0, 150, 150);
+  EXPECT_EQ(m().ForeClr, fore);
+  EXPECT_EQ(f().lForclr.BackColor, fore);
+  f().pB.raiseMouseMove(vbLeftButton, 0, 60, 100);
+  EXPECT_EQ(f().vBlu.Value, 255);
+  EXPECT_EQ(f().lHelp.Caption.get(), help);
+  EXPECT_EQ(f().lColor.BackColor, 0x00AA00);
+}
+
+TEST_F(ColourPickersTest, SwapExchangesColoursButLeavesTheCanvasPen) {
+  f().lForclr.BackColor = 0x0000FF;
+  f().lBkclr.BackColor = 0x00FF00;
+  ApplyColors(s());
+  f().cSwap.raiseClick();
+  EXPECT_EQ(f().lForclr.BackColor, 0x00FF00);
+  EXPECT_EQ(f().lBkclr.BackColor, 0x0000FF);
+  EXPECT_EQ(m().ForeClr, 0x00FF00);
+  EXPECT_EQ(m().BackClr, 0x0000FF);
+  EXPECT_EQ(f().PicPaint.ForeColor, 0x0000FF);  // until a tool or ApplyColors sets it
+  f().lForclr.raiseMouseUp(vbRightButton, 0, 10, 10);
+  EXPECT_EQ(m().ForeClr, 0x0000FF);
+  EXPECT_EQ(m().BackClr, 0x00FF00);
+  f().lForclr.raiseMouseUp(vbLeftButton, 0, 10, 10);
+  EXPECT_EQ(m().ForeClr, 0x0000FF);
+}
+
+TEST_F(ColourPickersTest, ColorPartSplitsBytesAndAlwaysStoresRed) {
+  EXPECT_EQ(ColorPart(s(), 0x336699, 0), 0x99);
+  EXPECT_EQ(ColorPart(s(), 0x336699, 1), 0x66);
+  m().ClrRed = 7;
+  EXPECT_EQ(ColorPart(s(), 0x336699, 2), 0x33);
+  EXPECT_EQ(m().ClrRed, 0x99);
+  // -1, the colour of a point off the picture, reads as white.
+  EXPECT_EQ(ColorPart(s(), -1, 1), 255);
+  EXPECT_EQ(m().ClrRed, 255);
+}
+
+TEST_F(ColourPickersTest, ColourKeysChooseAColourAndItsOption) {
+  ColourKey(s(), 3, true);
+  EXPECT_EQ(f().lColor.BackColor, 0xFF0000);
+  EXPECT_EQ(f().lForclr.BackColor, 0xFF0000);
+  EXPECT_EQ(m().ForeClr, 0xFF0000);
+  EXPECT_EQ(m().ColorOption, 3);
+  ColourKey(s(), 5, true);
+  EXPECT_EQ(m().ForeClr, RGB(0, 255, 255));
+  ColourKey(s(), 7, false);  // gray is no Colour Option
+  EXPECT_EQ(m().ForeClr, RGB(155, 155, 155));
+  EXPECT_EQ(m().ColorOption, 5);
+}
+
+TEST_F(ColourPickersTest, CtrlRightClickOnTheCanvasPicksItsColour) {
+  choose(f().mPencil);
+  f().PicPaint.Line(1500, 1500, 1500, 1500, 0x2040C0);
+  f().CtrlDown = -1;
+  press(1500, 1500, vbRightButton);
+  release(1500, 1500, vbRightButton);
+  EXPECT_EQ(m().ForeClr, 0x2040C0);
+  EXPECT_EQ(f().lForclr.BackColor, 0x2040C0);
+  EXPECT_EQ(f().lColor.BackColor, 0x2040C0);
+  EXPECT_EQ(f().shErSize.FillColor, 0x2040C0);
+  EXPECT_EQ(pixel(100, 100), 0x2040C0);  // no undo: the picture stays
+}
+
+}  // namespace
+}  // namespace qp::test
