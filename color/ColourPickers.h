@@ -29,6 +29,11 @@ void lColor_MouseDown(Session& s, int Button, int Shift, Single X, Single Y);
 void lColor_MouseUp(Session& s, int Button, int Shift, Single X, Single Y);
 void lForclr_MouseUp(Session& s, int Button, int Shift, Single X, Single Y);
 void cSwap_Click(Session& s);
+// Help line and tool tip as the pointer passes.
+void lColor_MouseMove(Session& s, int Button, int Shift, Single X, Single Y);
+void lColMode_MouseMove(Session& s, int Button, int Shift, Single X, Single Y);
+void lColorVal_MouseMove(Session& s, int Button, int Shift, Single X, Single Y);
+void cSwap_MouseMove(Session& s, int Button, int Shift, Single X, Single Y);
 
 // The strips pR, pG, pB; Y is in the strip's scale, 0 at the top to 255 at the bottom.
 void pR_MouseMove(Session& s, int Button, int Shift, Single X, Single Y);

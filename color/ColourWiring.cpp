@@ -39,6 +39,10 @@ void wireColours(Session& s) {
   f.lColor.MouseUp = mouse(s, lColor_MouseUp);
   f.lForclr.MouseUp = mouse(s, lForclr_MouseUp);
   f.cSwap.Click = [&s] { cSwap_Click(s); };
+  f.lColor.MouseMove = mouse(s, lColor_MouseMove);
+  f.lColMode.MouseMove = mouse(s, lColMode_MouseMove);
+  f.lColorVal.MouseMove = mouse(s, lColorVal_MouseMove);
+  f.cSwap.MouseMove = mouse(s, cSwap_MouseMove);
   f.pR.MouseMove = mouse(s, pR_MouseMove);
   f.pG.MouseMove = mouse(s, pG_MouseMove);
   f.pB.MouseMove = mouse(s, pB_MouseMove);

@@ -76,3 +76,21 @@ TEST_F(ColourBarsTest, RainbowGoesOnFromAHandMixedColour) {
 
 }  // namespace
 }  // namespace qp::test
+
+namespace qp::test {
+namespace {
+
+TEST_F(ColourBarsTest, FilmLineTipsBelongToOneModeOnly) {
+  choose(f().mShadow);
+  ASSERT_EQ(m().PaintMode, 4);
+  f().lColor.raiseMouseMove(0, 0, 10, 10);
+  EXPECT_TRUE(f().lColor.ToolTipText.get().startsWith("It's the cold!"));
+  f().lColorVal.raiseMouseMove(0, 0, 10, 10);
+  EXPECT_EQ(f().lColorVal.ToolTipText.get(), "Color : White");
+  choose(f().mPencil);
+  f().lColor.raiseMouseMove(0, 0, 10, 10);
+  EXPECT_EQ(f().lColor.ToolTipText.get(), "");
+}
+
+}  // namespace
+}  // namespace qp::test

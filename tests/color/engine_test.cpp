@@ -42,8 +42,12 @@ TEST_F(ColourEngineTest, RainbowMovesOneComponentByTheVarianceWithinItsFloorAndC
     const int dr = after.r - before.r, dg = after.g - before.g, db = after.b - before.b;
     EXPECT_LE((dr != 0) + (dg != 0) + (db != 0), 1);
     for (int d : {dr, dg, db}) EXPECT_TRUE(d == 0 || std::abs(d) == 80);
-    // From 0 only steps up are possible; a step down that would end under 20 is refused.
+    // From 0 only steps up are possible; a step down that would end under 20 is refused, so a
+    // component that has left 0 never comes back to it.
     for (int v : {after.r, after.g, after.b}) EXPECT_TRUE(v == 0 || v == 80 || v == 160 || v == 240) << v;
+    EXPECT_FALSE(before.r && !after.r);
+    EXPECT_FALSE(before.g && !after.g);
+    EXPECT_FALSE(before.b && !after.b);
     moved += after != before;
     expectShown(after);
   }
