@@ -1,12 +1,18 @@
 // The main window's events, each to its routine.
 #include "color/ColourEngine.h"
 #include "core/ApplyPaintMode.h"
+#include "core/CanvasSize.h"
+#include "core/Grid.h"
+#include "core/Edit.h"
+#include "core/Keyboard.h"
 #include "core/Layout.h"
 #include "core/PaintModes.h"
 #include "core/Panel.h"
+#include "core/PanelEvents.h"
 #include "core/Pipeline.h"
 #include "core/Startup.h"
 #include "core/Undo.h"
+#include "tools/AutoDraw.h"
 #include "ui/Program.h"
 
 namespace qp {
@@ -81,12 +87,35 @@ void wireCanvasEvents(Session& s, const std::function<void()>& quit) {
   };
 }
 
+void wireCanvasSize(Session& s) {
+  frmCanvas& f = s.f;
+  f.mFull.Click = [&s] { FitScreen(s); };
+  f.mCustm.Click = [&s] { mCustm_Click(s); };
+  f.cCustm.Click = [&s] { cCustm_Click(s); };
+  f.cCanCust.Click = [&s] { cCanCust_Click(s); };
+  f.hCustm.Change = [&f] { f.lWid.Caption = "Width : " + QString::number(f.hCustm.Value / 15); };
+  f.vCustm.Change = [&f] { f.lHgt.Caption = "Height : " + QString::number(f.vCustm.Value / 15); };
+  f.mLock.Click = [&s] { mLock_Click(s); };
+  f.vWidth.Change = [&s] { vWidth_Change(s); };
+  f.vWidth.Scroll = [&s] { vWidth_Change(s); };
+  f.vHigh.Change = [&s] { vHigh_Change(s); };
+  f.vHigh.Scroll = [&s] { vHigh_Change(s); };
+  f.mCross.Click = [&s] { SetPointerShape(s, 2); };
+  f.mArrow.Click = [&s] { SetPointerShape(s, 1); };
+  f.mCoords.Click = [&s] { ToggleGrid(s); };
+}
+
 }  // namespace
 
 void wireCanvas(Session& s, const std::function<void()>& quit) {
   wireModeMenus(s);
   wireCanvasEvents(s, quit);
+  wireCanvasSize(s);
   wireColours(s);
+  wirePanelEvents(s);
+  wireEditCommands(s);
+  wireKeyboard(s, quit);
+  wireAutoDraw(s);
 }
 
 }  // namespace qp

@@ -1,0 +1,11 @@
+#pragma once
+// The guide lines through the canvas, their colours, and the pointer shapes.
+#include "core/Session.h"
+
+namespace qp {
+
+void ToggleGrid(Session& s);
+void SetGridColors(Session& s);
+void SetPointerShape(Session& s, int shape);  // 2 cross, 1 arrow
+
+}  // namespace qp
