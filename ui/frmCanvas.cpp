@@ -5,12 +5,14 @@
 namespace qp {
 
 frmCanvas::frmCanvas(Runtime& rt)
+    // The groups register in the window, which is built first. `*this` as a Form is already valid
+    // here; a member function call on the window is not, until every group is built.
     : Form(rt, "frmCanvas"),
-      CanvasTimers(form()),
-      CanvasArea(form()),
-      ColourBlock(form()),
-      ControlPanel(form(), fColors),
-      CanvasMenus(form()) {
+      CanvasTimers(static_cast<Form&>(*this)),
+      CanvasArea(static_cast<Form&>(*this)),
+      ColourBlock(static_cast<Form&>(*this)),
+      ControlPanel(static_cast<Form&>(*this), fColors),
+      CanvasMenus(static_cast<Form&>(*this)) {
   Caption = " Quillora Pro";
   KeyPreview = true;
   BackColor = 0x404040;

@@ -21,9 +21,6 @@ class frmCanvas : public Form,
                   public CanvasVars {
  public:
   explicit frmCanvas(Runtime& rt);
-
- private:
-  Form& form() { return *this; }  // the window, for its groups of controls to register in
 };
 
 }  // namespace qp
