@@ -12,11 +12,17 @@ namespace qp {
 struct Session;
 
 using StrokeHook = std::function<void(Session&, int Button, Single X, Single Y)>;
+// The panel's shared check boxes and value bars mean something different in each mode; a mode
+// that uses one gives it a hook, and the panel's event reaches the hook of the mode in use.
+using PanelHook = std::function<void(Session&)>;
 
 struct ToolHooks {
   StrokeHook press;    // left button down, after the common steps
   StrokeHook move;     // each move with the left button held
   StrokeHook release;  // left button up, before the closing steps
+  PanelHook ckValClick;
+  PanelHook ckVal2Click;
+  std::array<PanelHook, 5> vValChange;  // vVal1 .. vVal5
 };
 
 class ToolTable {
