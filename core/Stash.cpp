@@ -1,0 +1,34 @@
+// The stash: one whole canvas set aside on a hidden surface. It outlives undo and clearing, and
+// can be fetched again and again.
+#include "core/Edit.h"
+#include "core/Panel.h"
+#include "core/Undo.h"
+#include "ui/frmCanvas.h"
+
+namespace qp {
+
+void mSendStash_Click(Session& s) {
+  frmCanvas& f = s.f;
+  trap([&] {
+    StopAllTools(s);
+    if (f.pPix.Visible) {  // the true canvas is on the pixel twin
+      f.pPix.Picture = f.pPix.Image;
+      f.PicPaint.Picture = f.pPix.Picture;
+    }
+    f.PicPaint.Picture = f.PicPaint.Image;
+    f.pStash.Picture = f.PicPaint.Picture;
+    f.mGet.Enabled = true;
+  });
+}
+
+// The stashed picture replaces the canvas unstretched; the canvas keeps its size.
+void mGet_Click(Session& s) {
+  frmCanvas& f = s.f;
+  trap([&] {
+    StopAllTools(s);
+    TakeUndoSnapshot(s);
+    f.PicPaint.Picture = f.pStash.Picture;
+  });
+}
+
+}  // namespace qp

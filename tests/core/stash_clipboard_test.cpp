@@ -1,0 +1,136 @@
+// The stash, copying the canvas, pasting, and setting the floating picture down.
+#include <QImage>
+
+#include "support/ProgramFixture.h"
+
+namespace qp::test {
+namespace {
+
+constexpr Colour kBlack = 0x000000;
+constexpr Colour kWhite = 0xFFFFFF;
+constexpr Colour kRed = 0x0000FF;
+
+class EditTest : public ProgramTest {
+ protected:
+  void SetUp() override {
+    ProgramTest::SetUp();
+    choose(f().mPencil);
+    f().vColmode.Value = 0;
+  }
+  void drawDot(Single x, Single y) {
+    press(x, y);
+    release(x, y);
+  }
+  // A red picture of w x h pixels on the clipboard.
+  void clipboardHoldsRed(int w, int h) {
+    QImage red(w, h, QImage::Format_RGB32);
+    red.fill(qRgb(255, 0, 0));
+    headless.clipboard.SetData(red);
+  }
+};
+
+TEST_F(EditTest, TheStashIsFetchedOnlyAfterASendAndAsOftenAsWanted) {
+  EXPECT_FALSE(f().mGet.Enabled);
+  drawDot(1500, 1500);
+  choose(f().mGet);  // disabled: nothing comes
+  EXPECT_EQ(pixel(100, 100), kWhite);
+
+  choose(f().mSendStash);
+  EXPECT_TRUE(f().mGet.Enabled);
+  choose(f().mClear);
+  drawDot(3000, 3000);
+  choose(f().mGet);
+  EXPECT_EQ(pixel(100, 100), kWhite);
+  EXPECT_EQ(pixel(200, 200), kBlack);
+  choose(f().mnuUndo);  // the fetch can be undone
+  EXPECT_EQ(pixel(200, 200), kWhite);
+  EXPECT_EQ(pixel(100, 100), kBlack);
+  choose(f().mGet);  // and the stash is still there
+  EXPECT_EQ(pixel(100, 100), kWhite);
+}
+
+TEST_F(EditTest, TheStashKeepsTheCanvasSize) {
+  choose(f().mSendStash);
+  const Single w = f().PicPaint.Width, h = f().PicPaint.Height;
+  choose(f().m64x48);
+  choose(f().mGet);
+  EXPECT_LT(f().PicPaint.Width.get(), w);
+  EXPECT_LT(f().PicPaint.Height.get(), h);
+}
+
+TEST_F(EditTest, CopyPutsTheWholeCanvasOnTheClipboardAndLeavesIt) {
+  drawDot(1500, 1500);
+  choose(f().mCopy);
+  const QImage copied = headless.clipboard.GetData();
+  EXPECT_EQ(copied.size(), f().PicPaint.bitmap().size());
+  EXPECT_EQ(copied.pixel(100, 100) & 0xFFFFFF, 0xFFFFFFu);
+  EXPECT_EQ(pixel(100, 100), kWhite);
+}
+
+TEST_F(EditTest, APasteFloatsAtTheCornerUnderABlinkingFrame) {
+  clipboardHoldsRed(20, 10);
+  choose(f().mnuPaste);
+  EXPECT_EQ(m().PaintMode, 22);
+  EXPECT_TRUE(f().pTemp.Visible);
+  EXPECT_TRUE(f().DrawShape.Visible);
+  EXPECT_EQ(f().pTemp.Left.get(), 480);
+  EXPECT_EQ(f().pTemp.Top.get(), 480);
+  EXPECT_EQ(f().DrawShape.Left.get(), 480);
+  EXPECT_EQ(f().DrawShape.Width.get(), 300);
+  EXPECT_EQ(f().DrawShape.Height.get(), 150);
+  EXPECT_EQ(pixel(33, 33), kBlack);  // not on the canvas yet
+
+  EXPECT_EQ(f().DrawShape.BorderColor.get(), 0xC0C0C0);
+  headless.loop.advance(200);
+  EXPECT_EQ(f().DrawShape.BorderColor.get(), 0xE0E0E0);
+  headless.loop.advance(200);
+  EXPECT_EQ(f().DrawShape.BorderColor.get(), 0xC0C0C0);
+}
+
+TEST_F(EditTest, ClickingTheFloatSetsItDownWithinItsFrame) {
+  drawDot(1500, 1500);
+  clipboardHoldsRed(20, 10);
+  choose(f().mnuPaste);
+  f().DrawShape.Width = 600;  // a frame stretched to twice the width stretches the picture
+  f().pTemp.raiseMouseDown(vbLeftButton, 0, 10, 10);
+  EXPECT_EQ(pixel(33, 33), kRed);
+  EXPECT_EQ(pixel(70, 33), kRed);
+  EXPECT_EQ(pixel(75, 33), kBlack);
+  EXPECT_FALSE(f().pTemp.Visible);
+  EXPECT_FALSE(f().DrawShape.Visible);
+  EXPECT_FALSE(f().tTemp.Enabled);
+  EXPECT_EQ(m().PaintMode, 0);  // back to the mode before the paste
+  choose(f().mnuUndo);
+  EXPECT_EQ(pixel(33, 33), kBlack);
+  EXPECT_EQ(pixel(100, 100), kWhite);
+}
+
+TEST_F(EditTest, ARightClickOnTheFloatDoesNotSetItDown) {
+  clipboardHoldsRed(20, 10);
+  choose(f().mnuPaste);
+  f().pTemp.raiseMouseDown(vbRightButton, 0, 10, 10);
+  EXPECT_TRUE(f().pTemp.Visible);
+  EXPECT_EQ(pixel(33, 33), kBlack);
+}
+
+TEST_F(EditTest, PastingAnEmptyClipboardChangesNothing) {
+  choose(f().mnuPaste);
+  EXPECT_EQ(m().PaintMode, 0);
+  EXPECT_FALSE(f().pTemp.Visible);
+  EXPECT_FALSE(f().DrawShape.Visible);
+  EXPECT_FALSE(f().tTemp.Enabled);
+}
+
+TEST_F(EditTest, CopyThenPasteBringsTheCanvasBackAsAFloat) {
+  drawDot(1500, 1500);
+  choose(f().mCopy);
+  choose(f().mClear);
+  choose(f().mnuPaste);
+  f().DrawShape.Left = 0;
+  f().DrawShape.Top = 0;
+  f().pTemp.raiseMouseDown(vbLeftButton, 0, 0, 0);
+  EXPECT_EQ(pixel(100, 100), kWhite);
+}
+
+}  // namespace
+}  // namespace qp::test
