@@ -1,11 +1,14 @@
 #include "tools/Tools.h"
 
 #include "core/ToolTable.h"
+#include "tools/Pencil.h"
+#include "tools/ShadowDraw.h"
 
 namespace qp {
 
 void registerTools(ToolTable& table) {
-  (void)table;  // each tool adds its hooks here as it is built
+  table.set(0, pencilHooks());
+  table.set(4, shadowDrawHooks());
 }
 
 }  // namespace qp

@@ -19,6 +19,9 @@ struct CanvasVars {
   Integer AirSpread = 5;
   Integer AutoDrawX = 500, AutoDrawY = 500;
   Integer AutoDrawSpeed = 4;
+  // AutoDraw: the arrow keys held (-1) and the pen before its latest step.
+  Integer AutoDrawUp = 0, AutoDrawRight = 0, AutoDrawDown = 0, AutoDrawLeft = 0;
+  Integer AutoDrawPrevX = 0, AutoDrawPrevY = 0;
   Integer CanvasLocked = 0;
   Integer TransparencySelect = 0;
   Long ShadowOffsetX = 0, ShadowOffsetY = 0;
