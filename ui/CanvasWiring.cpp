@@ -9,6 +9,7 @@
 #include "core/PaintModes.h"
 #include "core/Panel.h"
 #include "core/PanelEvents.h"
+#include "core/PanelRoles.h"
 #include "core/Pipeline.h"
 #include "core/Startup.h"
 #include "core/Undo.h"
@@ -113,6 +114,7 @@ void wireCanvas(Session& s, const std::function<void()>& quit) {
   wireCanvasSize(s);
   wireColours(s);
   wirePanelEvents(s);
+  wirePanel(s);  // the panel's own meaning of its bars and boxes, then the tool's hooks
   wireEditCommands(s);
   wireKeyboard(s, quit);
   wireAutoDraw(s);
