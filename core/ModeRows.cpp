@@ -7,6 +7,7 @@
 #include "core/ApplyPaintMode.h"
 #include "core/PaintModes.h"
 #include "core/Panel.h"
+#include "core/PanelRoles.h"
 #include "ui/frmCanvas.h"
 
 namespace qp {
@@ -47,7 +48,7 @@ const std::vector<ModeRow>& modeRows() {
       {8, {{1, 500, 20, 50, 2, 2, F::Fixed, true, true}, {2, 25, 1, 10, 1, 1, F::Fixed, true, true},
            {3, 24, 1, 6, 1, 1, F::Fixed, true, true}, {4, 6, 0, 0, 1, 1, F::ColorOption, true, true}},
        2, "Proceed..."},
-      {9, {{1, 12, 1, 2, 1, 1}, {2, 960, 120, 240, 20, 20, F::Fixed, true, false, false},
+      {9, {{1, 12, 1, 2, 1, 1, F::Fixed, true, true}, {2, 960, 120, 240, 20, 20, F::Fixed, true, false, false},
            {3, 24, 3, 6, 1, 1, F::Fixed, true, false, false}},
        1, "Proceed..."},
       {10, {{1, 50, 1, 1, 1, 1, F::Fixed, true, true}}, 0, "Equation : 1"},
@@ -69,7 +70,7 @@ const std::vector<ModeRow>& modeRows() {
       {19, {}, 0, nullptr, false},
       {20, {}, std::nullopt, nullptr},
       {21, {}, std::nullopt, "Proceed..."},
-      {23, {{1, 13, 0, 13, 1, 1}}, 0, "pROcEed..."},
+      {23, {{1, 13, 0, 13, 1, 1, F::Fixed, true, true}}, 0, "pROcEed..."},
       {24, {{1, 50, 2, 16, 1, 1, F::Fixed, false, true}}, 2, "Proceed..."},
       {25, {{1, 0, 3, 0, 1, 1, F::Fixed, true, true}, {2, 20, 2, 2, 1, 1}, {3, 24, 1, 6, 1, 1}}, 3, "Diamonds"},
       {26, {}, std::nullopt, "Proceed..."},
@@ -99,17 +100,24 @@ void ApplyModeRow(Session& s) {
     if (row.mode != mode) continue;
     for (const Bar& b : row.bars) {
       VScrollBar& bar = f.valueBar(b.row);
-      bar.Min = b.min;
-      bar.Max = b.max;
-      bar.Value = valueFrom(s, b);
-      bar.SmallChange = b.small;
-      bar.LargeChange = b.large;
+      // The row is shown and lit before its values go in, so that its own Change handler writes
+      // the label; a value that does not change leaves the label of the mode before. A value taken
+      // from a variable is read first, since a new range may move the bar and its handler would
+      // write the moved value back into the variable.
+      const int value = valueFrom(s, b);
       if (b.on) ShowValueRow(s, b.row);
       if (b.live) f.Shadow(b.row).BorderColor = kLiveFrame;
+      bar.Min = b.min;
+      bar.Max = b.max;
+      bar.Value = value;
+      bar.SmallChange = b.small;
+      bar.LargeChange = b.large;
       if (!b.enabled) bar.Enabled = false;
     }
     if (mode == 1) s.m.StepSize = 60;
+    // The mixing follows the bar even when its value stayed as it was.
     if (mode == 23) ApplyCrazyDrawMode(s);
+    ApplyModeEntry(s);
     if (row.panelRows) {
       f.PanelRows = *row.panelRows;
       SizeControlPanel(s);

@@ -1,0 +1,122 @@
+// What entering a mode switches on or off besides the value rows: the check boxes, the pixel
+// surface, the menu items that do not apply, and the modes with steps of their own.
+#include "core/Panel.h"
+#include "support/ProgramFixture.h"
+
+namespace qp::test {
+
+using ModeEntry = ProgramTest;
+
+namespace {
+Menu& item(frmCanvas& f, const char* name) { return *dynamic_cast<Menu*>(f.find(name)); }
+}  // namespace
+
+TEST_F(ModeEntry, CheckBoxesShowWithTheirStartValues) {
+  struct Expect { const char* menu; int ckVal; int ckVal2; };  // -1: the box is not shown
+  const Expect all[] = {
+      {"mPencil", 0, -1}, {"mSingle", 0, 0}, {"mSngBox", 0, 0}, {"mAir", -1, 0}, {"mShadow", 0, 0},
+      {"mMirLine", 0, -1}, {"mEr", -1, -1}, {"mBrushes", 1, 0}, {"mBallz", 0, 0}, {"mBubble", 0, 1},
+      {"mCrazyLn", -1, -1}, {"mCircFx", -1, 0}, {"mSpir2", 0, -1}, {"mPwp", -1, -1}, {"mFF", -1, -1},
+      {"mSpr3", 1, 0}, {"mMini", -1, -1}, {"mTxBrush", -1, -1}, {"mText", -1, -1}, {"mCrzyPen", 1, 0},
+      {"mGpen", 0, 0}, {"mtCvShapes", -1, -1}, {"mBluScrn", -1, 0}, {"mShadTx", -1, -1}, {"mSaw", -1, -1},
+  };
+  for (const Expect& e : all) {
+    SCOPED_TRACE(e.menu);
+    choose(item(f(), e.menu));
+    EXPECT_EQ(f().ckVal.Visible.get(), e.ckVal >= 0);
+    EXPECT_EQ(f().Shadow(24).Visible.get(), e.ckVal >= 0);
+    if (e.ckVal >= 0) EXPECT_EQ(f().ckVal.Value.get(), e.ckVal);
+    EXPECT_EQ(f().ckVal2.Visible.get(), e.ckVal2 >= 0);
+    EXPECT_EQ(f().Shadow(34).Visible.get(), e.ckVal2 >= 0);
+    if (e.ckVal2 >= 0) EXPECT_EQ(f().ckVal2.Value.get(), e.ckVal2);
+  }
+}
+
+TEST_F(ModeEntry, PixelModesPaintOnACopyOfTheCanvas) {
+  struct Expect { const char* menu; bool canvasHidden; bool openOn; bool pasteOn; };
+  const Expect all[] = {
+      {"mFF", false, false, false}, {"mSpr3", true, true, false}, {"mText", true, true, false},
+      {"mBluScrn", false, false, true},
+  };
+  for (const Expect& e : all) {
+    SCOPED_TRACE(e.menu);
+    choose(f().mPencil);
+    f().PicPaint.Line(300, 300, 1500, 900, 0x0000FF);
+    choose(item(f(), e.menu));
+    EXPECT_TRUE(f().pPix.Visible.get());
+    EXPECT_EQ(f().PicPaint.Visible.get(), !e.canvasHidden);
+    EXPECT_EQ(f().pPix.Picture.get(), f().PicPaint.Image.get());
+    EXPECT_EQ(f().mnuOpen.Enabled.get(), e.openOn);
+    EXPECT_EQ(f().mnuPaste.Enabled.get(), e.pasteOn);
+  }
+  // Any other mode gives the menu items back and the canvas its place.
+  choose(f().mPencil);
+  EXPECT_FALSE(f().pPix.Visible.get());
+  EXPECT_TRUE(f().PicPaint.Visible.get());
+  EXPECT_TRUE(f().mnuOpen.Enabled.get());
+  EXPECT_TRUE(f().mnuPaste.Enabled.get());
+}
+
+TEST_F(ModeEntry, CrazyPencilWidensThePenAndWarnsOnce) {
+  headless.msgbox.clear();
+  choose(f().mCrzyPen);
+  EXPECT_EQ(f().vPencil.Value.get(), 60);
+  EXPECT_EQ(int(m().DrawWidth), 60);
+  EXPECT_EQ(f().lPenVal.Caption.get(), "Draw Width : 60");
+  ASSERT_EQ(headless.msgbox.shown().size(), 1u);
+  EXPECT_EQ(headless.msgbox.shown()[0].prompt,
+            "Click the paint area once or so to initialize, then hang on 'cause this thing is NUTZ!");
+  EXPECT_EQ(headless.msgbox.shown()[0].title, "                                            WHO'S IDEA WAS THIS?!!");
+  // The bar at 13 mixes with DrawMode 15.
+  EXPECT_EQ(f().PicPaint.DrawMode.get(), 15);
+}
+
+TEST_F(ModeEntry, GroupsOfTheModesThatUseThem) {
+  choose(f().mSpir2);  // GeoSpiralz: the full-canvas button instead of the pointer box
+  EXPECT_TRUE(f().cCan.Visible.get());
+  EXPECT_EQ(f().Shadow(20).BorderColor.get(), kLiveFrame);
+  EXPECT_FALSE(f().ckHide.Visible.get());
+  EXPECT_TRUE(f().cSwap.Visible.get());
+  EXPECT_FALSE(f().vMin.Visible.get());
+  EXPECT_FALSE(f().ckHold.Visible.get());
+
+  choose(f().mtCvShapes);  // Canvas Gradients: direction buttons, no stepping colours
+  EXPECT_TRUE(f().opVert(0).Visible.get());
+  EXPECT_TRUE(f().opVert(0).Value.get());
+  EXPECT_FALSE(f().vColmode.Visible.get());
+  EXPECT_FALSE(f().vVar.Visible.get());
+  EXPECT_TRUE(f().vColors.Visible.get());
+  EXPECT_FALSE(f().fPencil.Visible.get());
+
+  choose(f().mText);  // 3D Text: the text frame sits lower and without its cover
+  EXPECT_TRUE(f().fText.Visible.get());
+  EXPECT_EQ(f().fText.Top.get(), 720);
+  EXPECT_FALSE(f().fTcover.Visible.get());
+  EXPECT_EQ(f().vFont.Min.get(), 120);
+  EXPECT_TRUE(f().cSwap.Visible.get());
+
+  choose(f().mEr);  // the eraser's preview has the bar's size and the draw colour
+  EXPECT_TRUE(f().shErSize.Visible.get());
+  EXPECT_EQ(f().shErSize.Width.get(), 120);
+  EXPECT_EQ(f().shErSize.Height.get(), 120);
+  EXPECT_EQ(f().shErSize.FillColor.get(), Colour(m().ForeClr.value()));
+
+  choose(f().mAir);  // AirBrush sprays at the fastest interval
+  EXPECT_TRUE(f().fInt.Visible.get());
+  EXPECT_EQ(f().vInt.Value.get(), 1);
+  EXPECT_EQ(f().tAir.Interval.get(), 1);
+
+  choose(f().mGpen);  // Mirrors N More: both axes on
+  EXPECT_EQ(f().ckVert.Value.get(), 1);
+  EXPECT_EQ(f().ckHoriz.Value.get(), 1);
+  EXPECT_EQ(f().Shadow(8).BorderColor.get(), kLiveFrame);
+
+  choose(f().mPwp);  // Collage Mode: the picture button waits for a picture
+  EXPECT_TRUE(f().cCan.Visible.get());
+  EXPECT_FALSE(f().cCan.Enabled.get());
+  EXPECT_TRUE(f().fColCov.Visible.get());
+  choose(f().mSpir2);
+  EXPECT_TRUE(f().cCan.Enabled.get());
+}
+
+}  // namespace qp::test
