@@ -1,0 +1,205 @@
+// Moving a value bar or clicking a check box: the row's label and tool tip, the variable it feeds,
+// the state word, and the dim rows that ignore their bars.
+#include "core/Panel.h"
+#include "support/ProgramFixture.h"
+
+namespace qp::test {
+
+using RowHandlers = ProgramTest;
+
+namespace {
+Menu& item(frmCanvas& f, const char* name) { return *dynamic_cast<Menu*>(f.find(name)); }
+}  // namespace
+
+TEST_F(RowHandlers, EachBarWritesItsLabelAndToolTip) {
+  struct Case { const char* menu; int row; int value; const char* label; };
+  const Case all[] = {
+      {"mAir", 1, 9, "Spread : 9"},
+      {"mShadow", 1, 120, "Offset : 12"},
+      {"mSngBox", 2, 3, "V-Lines"},
+      {"mSngBox", 2, 5, "Down\\"},
+      {"mSngBox", 3, 2, "Circle"},
+      {"mEr", 1, 300, "Eraser size: 30"},
+      {"mBrushes", 1, 19, "Diamond"},
+      {"mBrushes", 1, 55, "Scope"},
+      {"mBrushes", 2, 7, "Size : 7"},
+      {"mBallz", 1, 100, "Limit : 100"},
+      {"mBallz", 3, 12, "Aspect : 12"},
+      {"mBubble", 1, 5, "Box Size : 5"},
+      {"mCrazyLn", 1, 7, "Equation : 7"},
+      {"mCircFx", 2, 60, "Radius : 60"},
+      {"mCircFx", 5, 10, "Aspect : 10"},
+      {"mSpir2", 2, 9, "Symmetry : 9"},
+      {"mSpr3", 1, 24, "Lines/Pass : 24"},
+      {"mMini", 1, 2, "Circles"},
+      {"mCrzyPen", 1, 4, "DrawMode : 4"},
+      {"mtCvShapes", 1, 3, "Gradient"},
+      {"mSaw", 1, 125, "Offset  : 12.5"},
+  };
+  for (const Case& c : all) {
+    SCOPED_TRACE(std::string(c.menu) + " row " + std::to_string(c.row));
+    choose(item(f(), c.menu));
+    f().valueBar(c.row).Value = c.value;
+    EXPECT_EQ(f().valueLabel(c.row).Caption.get(), c.label);
+    EXPECT_EQ(f().valueLabel(c.row).ToolTipText.get(), c.label);
+  }
+}
+
+TEST_F(RowHandlers, BarsFeedTheirVariables) {
+  choose(f().mAir);
+  f().vVal1.arrowUp();  // the up arrow raises the value
+  EXPECT_EQ(int(f().AirSpread), 6);
+  choose(f().mShadow);
+  f().vVal1.Value = 200;
+  EXPECT_EQ(int(m().StepSize), 200);
+  choose(f().mEr);
+  f().vVal1.Value = 300;
+  EXPECT_EQ(f().shErSize.Width.get(), 300);
+  EXPECT_EQ(f().shErSize.Height.get(), 300);
+  choose(f().mBrushes);
+  f().vVal1.Value = 27;
+  EXPECT_EQ(int(f().BrushFigure), 27);
+  EXPECT_EQ(f().lStats.Caption.get(), "Stick man");
+  choose(f().mCrazyLn);
+  f().vVal1.Value = 12;
+  EXPECT_EQ(int(f().CrazyEquation), 12);
+  choose(f().mSpr3);
+  f().vVal1.Value = 36;
+  EXPECT_EQ(int(m().SpiralStep), 36);
+  choose(f().mBallz);
+  f().vVal4.Value = 3;
+  EXPECT_EQ(int(m().ColorOption), 3);
+  EXPECT_FALSE(f().lVal4.Caption.get().isEmpty());
+  choose(f().mGpen);
+  f().vVal1.Value = 30;
+  EXPECT_EQ(int(f().AutoDrawSpeed), 30);
+  // The drag of the thumb reports through Scroll before the drop.
+  choose(f().mSpr3);
+  f().vVal1.dragTo(48);
+  EXPECT_EQ(int(m().SpiralStep), 48);
+  EXPECT_EQ(f().lVal1.Caption.get(), "Lines/Pass : 48");
+}
+
+TEST_F(RowHandlers, GradientStylesLightTheRowTheyUse) {
+  for (const char* menu : {"mMini", "mtCvShapes"}) {
+    SCOPED_TRACE(menu);
+    choose(item(f(), menu));
+    f().vVal1.Value = 1;  // squares use the intensity row
+    EXPECT_EQ(f().Shadow(2).BorderColor.get(), kLiveFrame);
+    EXPECT_EQ(f().Shadow(3).BorderColor.get(), kDimFrame);
+    f().vVal2.Value = 5;
+    EXPECT_EQ(int(f().GradStepSize), 5);
+    EXPECT_EQ(f().lVal2.Caption.get(), "Intensity : 5");
+    f().vVal1.Value = 2;  // circles use the aspect row
+    EXPECT_EQ(f().Shadow(2).BorderColor.get(), kDimFrame);
+    EXPECT_EQ(f().Shadow(3).BorderColor.get(), kLiveFrame);
+  }
+}
+
+TEST_F(RowHandlers, SpiralStyleOneAloneUsesTheOffsetRow) {
+  choose(f().mSpir2);
+  f().vVal5.Value = 600;  // dim: ignored
+  EXPECT_EQ(int(m().StepSize), 40);
+  f().vVal4.Value = 1;
+  EXPECT_EQ(f().lVal4.Caption.get(), "Style : 1");
+  EXPECT_EQ(f().Shadow(5).BorderColor.get(), kLiveFrame);
+  f().vVal5.Value = 720;
+  EXPECT_EQ(int(m().StepSize), 720);
+  EXPECT_EQ(f().lVal5.Caption.get(), "Offset : 720");
+  f().vVal4.Value = 2;
+  EXPECT_EQ(f().Shadow(5).BorderColor.get(), kDimFrame);
+}
+
+TEST_F(RowHandlers, ADimRowClearsItsTipAndDoesNothingElse) {
+  choose(f().mSingle);
+  EXPECT_EQ(int(m().StepSize), 60);
+  const QString before = f().lVal1.Caption;
+  f().lVal1.ToolTipText = "old tip";
+  f().vVal1.Value = 400;
+  EXPECT_EQ(int(m().StepSize), 60);
+  EXPECT_EQ(f().lVal1.Caption.get(), before);
+  EXPECT_EQ(f().lVal1.ToolTipText.get(), "");
+  // Either box makes the offset row live; with both clear it is dim again.
+  f().ckVal2.raiseClick();
+  EXPECT_EQ(f().Shadow(1).BorderColor.get(), kLiveFrame);
+  f().vVal1.Value = 200;
+  EXPECT_EQ(int(m().StepSize), 200);
+  EXPECT_EQ(f().lVal1.Caption.get(), "Offset : 20");
+  f().ckVal2.raiseClick();
+  EXPECT_EQ(f().Shadow(1).BorderColor.get(), kDimFrame);
+}
+
+TEST_F(RowHandlers, CrazyPencilSkipsElevenAndKeepsItsMixing) {
+  choose(f().mCrzyPen);
+  f().vVal1.Value = 12;
+  EXPECT_EQ(f().PicPaint.DrawMode.get(), 14);
+  f().vVal1.Value = 11;
+  EXPECT_EQ(f().PicPaint.DrawMode.get(), 14);
+  EXPECT_EQ(f().lVal1.Caption.get(), "DrawMode : 12");
+}
+
+TEST_F(RowHandlers, CheckBoxesWriteTheirWords) {
+  struct Case { const char* menu; bool second; const char* on; const char* off; };
+  const Case all[] = {
+      {"mSingle", false, "Shadow Mode", "Single Mode"}, {"mSingle", true, "3rd Line", "Two Lines"},
+      {"mSngBox", false, "Shadow Mode", "Single Mode"}, {"mSngBox", true, "Third Enabled", "Third Disabled"},
+      {"mShadow", false, "Shadow Mode", "Single Mode"}, {"mMirLine", false, "Shadow Mode", "Single Mode"},
+      {"mBallz", false, "Mixing Enabled", "Mixing Disabled"}, {"mBubble", false, "Bubblez", "Boxes"},
+      {"mSpir2", false, "Mini Mode", "Full Screen"}, {"mGpen", false, "AutoDraw Enabled", "AutoDraw Disabled"},
+      {"mGpen", true, "Freehand", "Linez"}, {"mBluScrn", true, "Paint enabled", "Paint disabled"},
+      {"mPencil", false, "AutoDraw Enabled", "AutoDraw Disabled"}, {"mBrushes", false, "Draw", "Click"},
+  };
+  for (const Case& c : all) {
+    SCOPED_TRACE(std::string(c.menu) + (c.second ? " ckVal2" : " ckVal"));
+    choose(item(f(), c.menu));
+    CheckBox& box = c.second ? f().ckVal2 : f().ckVal;
+    box.Value = box.Value == 1 ? 0 : 1;
+    EXPECT_EQ(f().lStats.Caption.get(), box.Value == 1 ? c.on : c.off);
+    box.raiseClick();
+    EXPECT_EQ(f().lStats.Caption.get(), box.Value == 1 ? c.on : c.off);
+  }
+}
+
+TEST_F(RowHandlers, BoxesSwitchTheirGroups) {
+  choose(f().mBubble);  // Bubblez use the size and aspect rows
+  EXPECT_FALSE(f().vVal2.Enabled.get());
+  f().ckVal.raiseClick();
+  EXPECT_TRUE(f().vVal2.Enabled.get());
+  EXPECT_TRUE(f().vVal3.Enabled.get());
+  EXPECT_EQ(f().Shadow(2).BorderColor.get(), kLiveFrame);
+  f().vVal1.Value = 4;
+  EXPECT_EQ(f().lVal1.Caption.get(), "Spread : 4");
+  EXPECT_EQ(int(f().AirSpread), 4);
+  f().ckVal.raiseClick();
+  EXPECT_FALSE(f().vVal2.Enabled.get());
+  EXPECT_EQ(f().Shadow(3).BorderColor.get(), kDimFrame);
+
+  choose(f().mSpir2);  // a mini spiral needs no full-canvas button
+  f().ckVal.raiseClick();
+  EXPECT_FALSE(f().cCan.Visible.get());
+  EXPECT_TRUE(f().ckHide.Visible.get());
+  f().ckVal.raiseClick();
+  EXPECT_TRUE(f().cCan.Visible.get());
+  EXPECT_FALSE(f().Shadow(38).Visible.get());
+
+  choose(f().mSpr3);  // the Fullscreen option is a mode of its own
+  f().ckVal2.raiseClick();
+  EXPECT_EQ(int(m().PaintMode), 28);
+  EXPECT_EQ(f().lStats.Caption.get(), "MiniMode");
+  f().vVal1.Value = 18;  // the spiral bar keeps its meaning there
+  EXPECT_EQ(int(m().SpiralStep), 18);
+  f().ckVal2.raiseClick();
+  EXPECT_EQ(int(m().PaintMode), 16);
+  EXPECT_EQ(f().lStats.Caption.get(), "Fullscreen");
+
+  choose(f().mPencil);  // AutoDraw lights the speed row
+  f().vVal1.Value = 9;
+  EXPECT_EQ(int(f().AutoDrawSpeed), 4);
+  f().ckVal.raiseClick();
+  EXPECT_EQ(f().Shadow(1).BorderColor.get(), kLiveFrame);
+  f().vVal1.Value = 12;
+  EXPECT_EQ(int(f().AutoDrawSpeed), 12);
+  EXPECT_EQ(f().lVal1.Caption.get(), "Speed : 12");
+}
+
+}  // namespace qp::test
