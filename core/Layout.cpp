@@ -4,6 +4,21 @@
 
 namespace qp {
 
+namespace {
+
+void centreGuides(Line& across, Line& down, Single w, Single h) {
+  across.X1 = w / 2;
+  across.X2 = w / 2;
+  across.Y1 = 0;
+  across.Y2 = h;
+  down.X1 = 0;
+  down.X2 = w;
+  down.Y1 = h / 2;
+  down.Y2 = h / 2;
+}
+
+}  // namespace
+
 void Form_Resize(Session& s) {
   frmCanvas& f = s.f;
   trap([&] {
@@ -48,25 +63,9 @@ void MatchPixSurface(Session& s) {
   f.PicUndo.Width = f.PicPaint.Width;
   f.PicUndo.Height = f.PicPaint.Height;
   f.PicUndo.BackColor = f.PicPaint.BackColor;
-  // The guides run through the middle of the canvas.
-  const Single w = f.PicPaint.Width, h = f.PicPaint.Height;
-  f.lnX.X1 = w / 2;
-  f.lnX.X2 = w / 2;
-  f.lnX.Y1 = 0;
-  f.lnX.Y2 = h;
-  f.lnY.X1 = 0;
-  f.lnY.X2 = w;
-  f.lnY.Y1 = h / 2;
-  f.lnY.Y2 = h / 2;
-  const Single pw = f.pPix.ScaleWidth, ph = f.pPix.ScaleHeight;
-  f.lnPX.X1 = pw / 2;
-  f.lnPX.X2 = pw / 2;
-  f.lnPX.Y1 = 0;
-  f.lnPX.Y2 = ph;
-  f.lnPY.X1 = 0;
-  f.lnPY.X2 = pw;
-  f.lnPY.Y1 = ph / 2;
-  f.lnPY.Y2 = ph / 2;
+  // The guides run through the middle of the canvas, in each surface's own unit.
+  centreGuides(f.lnX, f.lnY, f.PicPaint.Width, f.PicPaint.Height);
+  centreGuides(f.lnPX, f.lnPY, f.pPix.ScaleWidth, f.pPix.ScaleHeight);
 }
 
 void SetTitle(Session& s) {

@@ -48,16 +48,7 @@ void closeStroke(Session& s, Single X, Single Y) {
 
 }  // namespace
 
-void ColourStep(Session& s) {
-  frmCanvas& f = s.f;
-  switch (f.vColmode.Value) {
-    case 0: s.m.ForeClr = f.lForclr.BackColor.get(); break;
-    case 1: StepRainbowColor(s, f.vVar.Value); break;
-    case 2: StepGlowColor(s, f.vVar.Value); break;
-    case 3: f.tGrad.Enabled = true; break;
-    default: break;
-  }
-}
+void ColourStep(Session& s) { StepDrawColor(s); }
 
 void PicPaint_MouseDown(Session& s, int Button, int Shift, Single X, Single Y) {
   frmCanvas& f = s.f;

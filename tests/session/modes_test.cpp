@@ -1,5 +1,5 @@
 // Choosing a paint mode: the display, the reset of the panel, the panel height, the exceptions.
-#include "ProgramFixture.h"
+#include "support/ProgramFixture.h"
 #include "core/Panel.h"
 
 namespace qp::test {

@@ -1,5 +1,5 @@
 // The road of a stroke: the common steps of press, move and release, whatever the mode.
-#include "ProgramFixture.h"
+#include "support/ProgramFixture.h"
 #include "core/Pipeline.h"
 #include "core/ToolTable.h"
 

@@ -1,5 +1,5 @@
 // Start-up, the exits and the window title.
-#include "ProgramFixture.h"
+#include "support/ProgramFixture.h"
 #include "core/Layout.h"
 
 namespace qp::test {
