@@ -1,11 +1,19 @@
-// Quillora Pro: starts the main window on the desktop.
+// Quillora Pro: starts the main window on the desktop, or runs, records or demonstrates a script.
+//   quillora                          the program in a window
+//   quillora --script FILE [--show] [--screen WxH]   run a script (FILE "-" is standard input)
+//   quillora --record FILE            the program in a window, writing the user's input to FILE
+//   quillora --demo [OUT.bmp]         paint the bundled demo headless and save it
+//   quillora --monkey N SEED          N random inputs, to see that the program survives them
 #include <QApplication>
 #include <QByteArray>
 #include <QDateTime>
+#include <QSize>
 #include <cstdio>
+#include <cstring>
 
 #include "platform/qt/FormView.h"
 #include "platform/qt/QtRuntime.h"
+#include "script/CommandLine.h"
 #include "ui/Program.h"
 
 namespace {
@@ -16,18 +24,75 @@ bool haveDisplay() {
   return !qgetenv("DISPLAY").isEmpty() || !qgetenv("WAYLAND_DISPLAY").isEmpty();
 }
 
+int usage() {
+  std::fprintf(stderr,
+               "usage: quillora [--script FILE [--show] [--screen WxH] | --record FILE | --demo [OUT.bmp] |\n"
+               "                 --monkey N SEED]\n");
+  return 2;
+}
+
+struct Options {
+  enum Mode { Window, Script, Record, Demo, Monkey } mode = Window;
+  QString file;
+  bool show = false;
+  QSize screen{1280, 1024};
+  long long events = 0;
+  unsigned long seed = 1;
+};
+
+bool parse(int argc, char** argv, Options& o) {
+  for (int i = 1; i < argc; ++i) {
+    const char* a = argv[i];
+    const bool more = i + 1 < argc;
+    if (!std::strcmp(a, "--script") && more) { o.mode = Options::Script; o.file = argv[++i]; }
+    else if (!std::strcmp(a, "--record") && more) { o.mode = Options::Record; o.file = argv[++i]; }
+    else if (!std::strcmp(a, "--show")) o.show = true;
+    else if (!std::strcmp(a, "--demo")) {
+      o.mode = Options::Demo;
+      o.file = more && argv[i + 1][0] != '-' ? argv[++i] : "demo.bmp";
+    } else if (!std::strcmp(a, "--screen") && more) {
+      const QStringList wh = QString(argv[++i]).split('x');
+      if (wh.size() != 2 || wh[0].toInt() <= 0 || wh[1].toInt() <= 0) return false;
+      o.screen = QSize(wh[0].toInt(), wh[1].toInt());
+    } else if (!std::strcmp(a, "--monkey") && i + 2 < argc) {
+      o.mode = Options::Monkey;
+      bool ok1 = false, ok2 = false;
+      o.events = QByteArray(argv[++i]).toLongLong(&ok1);
+      o.seed = QByteArray(argv[++i]).toULong(&ok2);
+      if (!ok1 || !ok2 || o.events < 0) return false;
+    } else {
+      return false;
+    }
+  }
+  return true;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (!haveDisplay()) {
+  Options o;
+  if (!parse(argc, argv, o)) return usage();
+  const bool headless = o.mode == Options::Demo || o.mode == Options::Monkey || (o.mode == Options::Script && !o.show);
+  if (headless) {
+    // No window is shown; the offscreen platform still gives fonts and drawing as on screen.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+  } else if (!haveDisplay()) {
     std::fprintf(stderr,
                  "Quillora Pro needs a display to show its window, and none was found (DISPLAY and\n"
                  "WAYLAND_DISPLAY are empty). Start it from a desktop session, or give it a virtual\n"
-                 "screen: xvfb-run -a scripts/run.sh\n");
+                 "screen: xvfb-run -a scripts/run.sh. Without one, `quillora --demo` paints the demo\n"
+                 "picture and `quillora --script FILE` runs a script.\n");
     return 1;
   }
   QApplication app(argc, argv);
   QApplication::setApplicationName("Quillora Pro");
+  switch (o.mode) {
+    case Options::Script: return qp::script::runScript(o.file, o.show, o.screen);
+    case Options::Record: return qp::script::runRecording(o.file);
+    case Options::Demo: return qp::script::runDemo(o.file);
+    case Options::Monkey: return qp::script::runMonkey(o.events, static_cast<std::uint32_t>(o.seed));
+    case Options::Window: break;
+  }
   qp::QtRuntime runtime(static_cast<std::uint32_t>(QDateTime::currentMSecsSinceEpoch()));
   qp::Program program(runtime.rt(), [] { QApplication::exit(0); });
   qp::FormView view(program.f);

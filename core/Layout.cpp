@@ -6,15 +6,15 @@ namespace qp {
 
 namespace {
 
-void centreGuides(Line& across, Line& down, Single w, Single h) {
-  across.X1 = w / 2;
-  across.X2 = w / 2;
-  across.Y1 = 0;
-  across.Y2 = h;
-  down.X1 = 0;
-  down.X2 = w;
-  down.Y1 = h / 2;
-  down.Y2 = h / 2;
+void centreGuides(Line& vertical, Line& horizontal, Single w, Single h) {
+  vertical.X1 = w / 2;
+  vertical.X2 = w / 2;
+  vertical.Y1 = 0;
+  vertical.Y2 = h;
+  horizontal.X1 = 0;
+  horizontal.X2 = w;
+  horizontal.Y1 = h / 2;
+  horizontal.Y2 = h / 2;
 }
 
 }  // namespace
