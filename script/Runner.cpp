@@ -1,0 +1,206 @@
+// The script runner: finding controls by name, reading values out, files and the clipboard.
+#include "script/Runner.h"
+
+#include <QFileInfo>
+#include <QImage>
+
+#include "platform/Controls.h"
+#include "platform/Errors.h"
+#include "platform/Runtime.h"
+#include "script/Value.h"
+#include "surface/PictureBox.h"
+#include "ui/Program.h"
+
+namespace qp::script {
+
+Runner::Runner(Program& program, Runtime& rt, Host& host, QTextStream& out, QTextStream& err)
+    : p_(program), rt_(rt), host_(host), out_(out), err_(err), activeForm_(&program.f) {}
+
+std::vector<Form*> Runner::forms() const {
+  // Every window of the program that a script may name; new windows join this list.
+  return {&p_.f};
+}
+
+Control* Runner::resolve(const QString& path) const {
+  const int dot = path.indexOf('.');
+  if (dot < 0) {
+    if (Control* c = p_.f.find(path)) return c;  // the main window's controls need no prefix
+    for (Form* f : forms())
+      if (f->Name() == path) return f;
+    return nullptr;
+  }
+  const QString formName = path.left(dot);
+  for (Form* f : forms())
+    if (f->Name() == formName) return f->find(path.mid(dot + 1));
+  return nullptr;
+}
+
+bool Runner::reachable(const Control& c) const {
+  // A user reaches only what is shown and enabled, all the way up to the window.
+  for (const Control* x = &c; x; x = x->parent())
+    if (!x->Visible || !x->Enabled) return false;
+  const Form* f = c.form() ? c.form() : dynamic_cast<const Form*>(&c);
+  return !f || f->Visible;
+}
+
+Runner::Outcome Runner::error(const Command& c, const QString& message) {
+  err_ << "line " << c.line << ": " << message << Qt::endl;
+  return Outcome::Error;
+}
+
+VisualControl* Runner::visual(const Command& c, Outcome& o) {
+  Control* ctl = resolve(c.name);
+  if (!ctl) {
+    o = error(c, QString("no control named '%1'").arg(c.name));
+    return nullptr;
+  }
+  auto* v = dynamic_cast<VisualControl*>(ctl);
+  if (!v) {
+    o = error(c, QString("'%1' takes no pointer or key input").arg(c.name));
+    return nullptr;
+  }
+  o = Outcome::Done;
+  if (!reachable(*v)) {
+    if (!quietUnreachable_)
+      err_ << "line " << c.line << ": note: " << c.name << " is hidden or disabled; the input goes nowhere"
+           << Qt::endl;
+    return nullptr;
+  }
+  return v;
+}
+
+int Runner::runAll(const std::vector<Command>& commands) {
+  bool failed = false;
+  for (const Command& c : commands) {
+    switch (run(c)) {
+      case Outcome::Done: break;
+      case Outcome::ExpectFailed: failed = true; break;
+      case Outcome::Error: return 2;
+      case Outcome::Quit:
+        err_ << "line " << c.line << ": the program ended; the rest of the script does not run" << Qt::endl;
+        return failed ? 1 : 0;
+    }
+  }
+  out_.flush();
+  return failed ? 1 : 0;
+}
+
+Runner::Outcome Runner::run(const Command& c) {
+  Outcome o = Outcome::Done;
+  switch (c.op) {
+    case Op::Seed: rt_.rnd.Randomize(static_cast<std::uint32_t>(c.number)); break;
+    case Op::Menu: o = menu(c); break;
+    case Op::Click: case Op::DblClick: o = click(c); break;
+    case Op::Press: case Op::Move: case Op::Release: o = pointer(c); break;
+    case Op::Key: o = key(c); break;
+    case Op::Focus: {
+      VisualControl* v = visual(c, o);
+      if (v && v->form()) {
+        activeForm_ = v->form();
+        trap([&] { v->form()->setFocusTo(v); });
+        host_.afterInput();
+      }
+      break;
+    }
+    case Op::Type: o = type(c); break;
+    case Op::Set: o = set(c); break;
+    case Op::Wait: host_.wait(c.number); break;
+    case Op::Drop: o = drop(c); break;
+    case Op::ClipboardLoad: case Op::ClipboardSave: case Op::ClipboardClear: o = clipboard(c); break;
+    case Op::Save: o = save(c); break;
+    case Op::Print: case Op::Expect: o = readOut(c); break;
+    case Op::Screenshot: {
+      QString why;
+      if (!host_.screenshot(c.text, why)) o = error(c, QString("cannot write %1: %2").arg(c.text, why));
+      break;
+    }
+  }
+  if (o != Outcome::Error && host_.quitRequested()) return Outcome::Quit;
+  return o;
+}
+
+Runner::Outcome Runner::readOut(const Command& c) {
+  std::optional<Value> v;
+  QString what = c.name;
+  if (c.pixel) {
+    what = QString("pixel %1 %2 %3").arg(c.name).arg(c.x).arg(c.y);
+    auto* pb = dynamic_cast<PictureBox*>(resolve(c.name));
+    if (!pb) return error(c, QString("'%1' is not a picture box").arg(c.name));
+    const QImage& bmp = pb->bitmap();
+    const int x = static_cast<int>(c.x), y = static_cast<int>(c.y);
+    if (bmp.valid(x, y)) {
+      const QRgb px = bmp.pixel(x, y);
+      v = Value::colour(static_cast<long long>(qRed(px) | (qGreen(px) << 8) | (qBlue(px) << 16)));
+    } else {
+      v = Value::colour(-1);  // outside the picture, as Point answers
+    }
+  } else if (c.name == "msgbox") {
+    v = Value::string(host_.lastMessageBox());
+  } else if (const int dot = c.name.lastIndexOf('.'); dot > 0) {
+    Control* ctl = resolve(c.name.left(dot));
+    if (!ctl) return error(c, QString("no control named '%1'").arg(c.name.left(dot)));
+    v = readProperty(*ctl, c.name.mid(dot + 1));
+    if (!v) return error(c, QString("%1 has no property '%2'").arg(c.name.left(dot), c.name.mid(dot + 1)));
+  } else {
+    v = readSessionVariable(p_.m, p_.f, c.name);
+    if (!v) return error(c, QString("no session variable named '%1'").arg(c.name));
+  }
+  const QString shown = v->format();
+  out_ << what << " = " << shown << '\n';
+  if (c.op == Op::Expect && !v->matches(c.text)) {
+    err_ << "line " << c.line << ": expected " << what << " = " << c.text << ", but it is " << shown << Qt::endl;
+    return Outcome::ExpectFailed;
+  }
+  return Outcome::Done;
+}
+
+QString Runner::inputFile(const QString& name) const {
+  // A script and the pictures it uses travel together: its own folder is looked in first.
+  if (!inputFolder_.isEmpty() && QFileInfo(name).isRelative()) {
+    const QString beside = inputFolder_ + "/" + name;
+    if (QFileInfo::exists(beside)) return beside;
+  }
+  return name;
+}
+
+Runner::Outcome Runner::drop(const Command& c) {
+  Outcome o;
+  VisualControl* v = visual(c, o);
+  if (!v) return o;
+  // The window turns a drop away from a control that does not take files.
+  if (!v->OLEDropEnabled) {
+    if (!quietUnreachable_) err_ << "line " << c.line << ": note: " << c.name << " takes no dropped files" << Qt::endl;
+    return Outcome::Done;
+  }
+  const QStringList files{QFileInfo(inputFile(c.text)).absoluteFilePath()};
+  trap([&] { if (v->OLEDragDrop) v->OLEDragDrop(files, vbLeftButton, 0, 0, 0); });
+  host_.afterInput();
+  return Outcome::Done;
+}
+
+Runner::Outcome Runner::clipboard(const Command& c) {
+  if (c.op == Op::ClipboardClear) {
+    rt_.clipboard.Clear();
+    return Outcome::Done;
+  }
+  if (c.op == Op::ClipboardLoad) {
+    QImage picture(inputFile(c.text));
+    if (picture.isNull()) return error(c, QString("cannot read a picture from %1").arg(c.text));
+    rt_.clipboard.SetData(picture);
+    return Outcome::Done;
+  }
+  const QImage picture = rt_.clipboard.GetData();
+  if (picture.isNull()) return error(c, "the clipboard holds no picture");
+  if (!picture.save(c.text) && !picture.save(c.text, "PNG")) return error(c, QString("cannot write %1").arg(c.text));
+  return Outcome::Done;
+}
+
+Runner::Outcome Runner::save(const Command& c) {
+  auto* pb = dynamic_cast<PictureBox*>(resolve(c.name));
+  if (!pb) return error(c, QString("'%1' is not a picture box").arg(c.name));
+  const QImage image = pb->Image.get();
+  if (image.isNull() || !image.save(c.text, "BMP")) return error(c, QString("cannot write %1").arg(c.text));
+  return Outcome::Done;
+}
+
+}  // namespace qp::script
