@@ -1,0 +1,123 @@
+// A session recorded through the real window replays headless to the same picture.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QBuffer>
+#include <QKeyEvent>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <cstdio>
+
+#include "platform/Headless.h"
+#include "platform/qt/FormView.h"
+#include "script/Recorder.h"
+#include "script/Runner.h"
+#include "script/Sessions.h"
+#include "ui/Program.h"
+
+namespace qp::script {
+
+namespace {
+
+void mouse(QWidget* w, QEvent::Type t, QPoint at, Qt::MouseButton b, Qt::MouseButtons held) {
+  QMouseEvent e(t, QPointF(at), w->mapToGlobal(QPointF(at)), b, held, Qt::NoModifier);
+  QApplication::sendEvent(w, &e);
+}
+
+// Chooses a menu item the way a user's click on the open menu does.
+void chooseFromMenu(FormView& view, Menu& item) {
+  QAction* a = view.actionFor(&item);
+  ASSERT_TRUE(a);
+  auto* menu = qobject_cast<QMenu*>(a->parent());
+  ASSERT_TRUE(menu);
+  menu->popup(QPoint(0, 0));
+  const QPoint at = menu->actionGeometry(a).center();
+  mouse(menu, QEvent::MouseButtonPress, at, Qt::LeftButton, Qt::LeftButton);
+  mouse(menu, QEvent::MouseButtonRelease, at, Qt::LeftButton, Qt::NoButton);
+  menu->hide();
+}
+
+// One step of a bar's arrow, the way that raises the value (bars may run either way round).
+void stepUp(FormView& view, ScrollBar& control) {
+  auto* bar = qobject_cast<QScrollBar*>(view.widgetFor(&control));
+  ASSERT_TRUE(bar);
+  const int before = control.Value;
+  bar->triggerAction(QAbstractSlider::SliderSingleStepSub);
+  if (control.Value <= before) bar->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+  if (control.Value <= before) bar->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+}
+
+}  // namespace
+
+TEST(Recorder, ARecordedSessionReplaysToTheSameStrokes) {
+  QBuffer file;
+  file.open(QIODevice::ReadWrite);
+  HeadlessRuntime live(4242);
+  Program program(live.rt());
+  FormView view(program.f);
+  Recorder recorder(view, live.loop, 4242, file);
+  program.start();
+  view.sync();
+  view.window().show();
+
+  // A wider pen, from the draw-width bar's arrow.
+  stepUp(view, program.f.vPencil);
+  stepUp(view, program.f.vPencil);
+  // The mode takes the width from the bar.
+  chooseFromMenu(view, program.f.mPencil);
+  ASSERT_EQ(program.m.PaintMode, 0);
+  const int width = program.m.DrawWidth;
+  ASSERT_GT(width, 1);
+  // A rainbow stroke: the colour steps with every event, so the replay must match them one for one.
+  QWidget* canvas = view.widgetFor(&program.f.PicPaint);
+  ASSERT_TRUE(canvas);
+  canvas->setFocus();
+  QKeyEvent f12(QEvent::KeyPress, Qt::Key_F12, Qt::NoModifier);
+  QKeyEvent f12up(QEvent::KeyRelease, Qt::Key_F12, Qt::NoModifier);
+  const int colourMode = program.f.vColmode.Value;
+  QApplication::sendEvent(canvas, &f12);
+  QApplication::sendEvent(canvas, &f12up);
+  ASSERT_EQ(program.f.vColmode.Value, colourMode + 1);
+  mouse(canvas, QEvent::MouseButtonPress, {30, 40}, Qt::LeftButton, Qt::LeftButton);
+  live.loop.advance(16);
+  for (int i = 1; i <= 40; ++i) {
+    mouse(canvas, QEvent::MouseMove, {30 + i * 5, 40 + (i % 7) * 6}, Qt::NoButton, Qt::LeftButton);
+    live.loop.advance(10);
+  }
+  mouse(canvas, QEvent::MouseButtonRelease, {230, 80}, Qt::LeftButton, Qt::NoButton);
+  QKeyEvent ctrl(QEvent::KeyPress, Qt::Key_Control, Qt::ControlModifier);
+  QApplication::sendEvent(canvas, &ctrl);
+  ASSERT_EQ(program.f.CtrlDown, -1);
+
+  const QString script = QString::fromUtf8(file.data());
+  if (qEnvironmentVariableIsSet("SHOW_RECORDING")) std::fprintf(stderr, "%s", qPrintable(script));
+  EXPECT_TRUE(script.contains("\nseed 4242\n")) << script.toStdString();
+  EXPECT_TRUE(script.contains("menu mPencil\n"));
+  EXPECT_TRUE(script.contains("press PicPaint 30 40 left\n"));
+  EXPECT_TRUE(script.contains("wait 10\nmove PicPaint 40 52 left\n"));
+  EXPECT_TRUE(script.contains("key Ctrl down\n"));
+  EXPECT_TRUE(script.contains("key F12 down\nkey F12 up\n"));
+
+  // The replay, on a fresh headless session of its own.
+  std::vector<Command> commands;
+  ParseError perr;
+  ASSERT_TRUE(parseScript(script, commands, perr))
+      << perr.line << ": " << perr.message.toStdString();
+  EXPECT_EQ(takeLeadingSeed(commands), 4242u);
+  QString printed;
+  QTextStream out(&printed);
+  HeadlessSession replay(4242, QSize(1280, 1024), out);
+  Runner runner(replay.program(), replay.rt(), replay, out, out);
+  ASSERT_EQ(runner.runAll(commands), 0) << printed.toStdString();
+  EXPECT_EQ(replay.program().m.DrawWidth, width);
+  EXPECT_EQ(replay.program().f.CtrlDown, -1);
+  EXPECT_EQ(replay.program().m.ForeClr, program.m.ForeClr);
+  const QImage a = program.f.PicPaint.bitmap(), b = replay.program().f.PicPaint.bitmap();
+  ASSERT_EQ(a.size(), b.size());
+  EXPECT_EQ(a, b);
+  EXPECT_NE(a.pixel(30, 40) & 0xFFFFFF, 0u);  // the stroke is there
+}
+
+}  // namespace qp::script

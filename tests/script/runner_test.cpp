@@ -1,0 +1,160 @@
+// Running scripts on a headless Quillora: what each line does to the program, and the exit status.
+#include <gtest/gtest.h>
+
+#include <QBuffer>
+#include <QImage>
+#include <QTemporaryDir>
+
+#include "script/Runner.h"
+#include "script/Sessions.h"
+#include "ui/Program.h"
+
+namespace qp::script {
+
+class ScriptRun : public ::testing::Test {
+ protected:
+  // Runs the text on the session; the status as the command line gives it.
+  int run(const QString& text) {
+    std::vector<Command> commands;
+    ParseError perr;
+    if (!parseScript(text, commands, perr)) return 2;
+    return runner.runAll(commands);
+  }
+  frmCanvas& f() { return session.program().f; }
+
+  QString printed, errors;
+  QTextStream out{&printed}, err{&errors};
+  HeadlessSession session{1, QSize(1280, 1024), out};
+  Runner runner{session.program(), session.rt(), session, out, err};
+  QTemporaryDir dir;
+};
+
+TEST_F(ScriptRun, ExitStatusTellsHeldFailedAndBroken) {
+  EXPECT_EQ(run("expect PaintMode 16\nprint lMode.Caption"), 0);
+  out.flush();
+  EXPECT_TRUE(printed.contains("PaintMode = 16\nlMode.Caption = \"Freehand Spiralz\"\n"));
+  EXPECT_EQ(run("expect PaintMode 3\nexpect DrawWidth 1"), 1);  // a failure does not stop the run
+  err.flush();
+  EXPECT_TRUE(errors.contains("line 1: expected PaintMode = 3, but it is 16")) << errors.toStdString();
+  EXPECT_EQ(run("print nosuchthing"), 2);
+  EXPECT_EQ(run("menu mPencil\nclick vValX\nmenu mShadow"), 2);
+  err.flush();
+  EXPECT_TRUE(errors.contains("line 2: no control named 'vValX'"));
+  EXPECT_EQ(session.program().m.PaintMode, 0);  // nothing after the broken line ran
+  EXPECT_EQ(run("print vVal1.Nonsense"), 2);
+  EXPECT_EQ(run("set lMode.Caption hello"), 2);  // a user cannot write a label
+}
+
+TEST_F(ScriptRun, WaitIsTheOnlyLineThatTakesTime) {
+  const auto start = session.rt().loop.now();
+  run("menu mPencil\npress PicPaint 5 5\nmove PicPaint 50 5\nrelease PicPaint 50 5");
+  EXPECT_EQ(session.rt().loop.now(), start);
+  run("wait 250\nwait 0\nwait 50");
+  EXPECT_EQ(session.rt().loop.now(), start + 300);
+}
+
+TEST_F(ScriptRun, SeedRestartsRnd) {
+  run("seed 5");
+  Random same(5);
+  EXPECT_EQ(session.rt().rnd.Rnd(), same.Rnd());
+}
+
+TEST_F(ScriptRun, SetChangesAsTheUserDoesAndRefusesWhatTheUserCannot) {
+  EXPECT_EQ(run("set vPencil.Value 7\nmenu mPencil\nexpect DrawWidth 7"), 0);
+  EXPECT_EQ(run("set vPencil.Value 9999"), 2);
+  EXPECT_EQ(run("set vPencil.Value seven"), 2);
+  f().fText.Visible = true;
+  EXPECT_EQ(run("set Text1.Text \"two words\"\nexpect Text1.Text \"two words\""), 0);
+  EXPECT_EQ(run("set ckHold.Value 3"), 2);
+}
+
+TEST_F(ScriptRun, KeysGoThroughTheWindowFirst) {
+  EXPECT_EQ(run("key Ctrl down\nexpect CtrlDown -1\nkey Ctrl up\nexpect CtrlDown 0"), 0);
+  // Esc ends the program: the rest of the script does not run, and that is no failure.
+  EXPECT_EQ(run("key Esc\nexpect PaintMode 99"), 0);
+  EXPECT_TRUE(session.quitRequested());
+}
+
+TEST_F(ScriptRun, TypeEditsTheTextBoxWithKeys) {
+  f().fText.Visible = true;
+  int presses = 0;
+  f().Text1.KeyPress = [&](int&) { ++presses; };
+  EXPECT_EQ(run("set Text1.Text \"\"\ntype Text1 Hi 5"), 0);
+  EXPECT_EQ(f().Text1.Text.get(), "Hi 5");
+  EXPECT_EQ(presses, 4);
+  EXPECT_EQ(f().ActiveControl(), &f().Text1);
+  f().Text1.KeyPress = [](int& k) { k = 0; };  // a handler that swallows the key keeps it out
+  run("type Text1 x");
+  EXPECT_EQ(f().Text1.Text.get(), "Hi 5");
+}
+
+TEST_F(ScriptRun, HiddenControlsTakeNoInput) {
+  f().vVal1.Visible = false;
+  EXPECT_EQ(run("set vVal1.Value 1"), 0);
+  err.flush();
+  EXPECT_TRUE(errors.contains("hidden or disabled"));
+  bool clicked = false;
+  f().cSwap.Click = [&] { clicked = true; };
+  f().cSwap.Enabled = false;
+  run("click cSwap");
+  EXPECT_FALSE(clicked);
+  f().cSwap.Enabled = true;
+  f().cSwap.Visible = true;
+  f().fColors.Visible = true;
+  run("click cSwap");
+  EXPECT_EQ(clicked, runner.resolve("cSwap") != nullptr);
+}
+
+TEST_F(ScriptRun, FilesAndTheClipboard) {
+  QImage pic(8, 6, QImage::Format_RGB32);
+  pic.fill(qRgb(10, 20, 30));
+  const QString in = dir.filePath("in.png"), back = dir.filePath("back.png"), saved = dir.filePath("canvas.bmp");
+  pic.save(in);
+  EXPECT_EQ(run(QString("clipboard load %1\nclipboard save %2").arg(in, back)), 0);
+  EXPECT_EQ(QImage(back).pixel(3, 3), qRgb(10, 20, 30));
+  EXPECT_EQ(run("clipboard clear"), 0);
+  EXPECT_TRUE(session.clipboard().GetData().isNull());
+  EXPECT_EQ(run(QString("clipboard save %1").arg(back)), 2);  // nothing to save
+  EXPECT_EQ(run(QString("clipboard load %1").arg(dir.filePath("missing.png"))), 2);
+  run("menu mPencil\nkey F11\nkey F11\nkey F11\npress PicPaint 4 4\nrelease PicPaint 4 4");
+  EXPECT_EQ(run("save PicPaint " + saved), 0);
+  const QImage canvas(saved);
+  EXPECT_EQ(canvas.size(), f().PicPaint.bitmap().size());
+  EXPECT_EQ(canvas.pixel(4, 4), qRgb(255, 255, 255));
+  EXPECT_EQ(run("save lMode " + saved), 2);
+}
+
+TEST_F(ScriptRun, ReadOutsOfPixelsAndProperties) {
+  run("menu mPencil\nkey F11\nkey F11\nkey F11\npress PicPaint 4 4\nrelease PicPaint 4 4");
+  printed.clear();
+  EXPECT_EQ(run("print pixel PicPaint 4 4\nprint pixel PicPaint -1 0\nprint pPix.Visible\nprint LastX\n"
+                "print frmCanvas.ActiveControl\nprint vPencil.Min"), 0);
+  out.flush();
+  EXPECT_EQ(printed, "pixel PicPaint 4 4 = 0xFFFFFF\npixel PicPaint -1 0 = -1\npPix.Visible = 0\nLastX = 60\n"
+                     "frmCanvas.ActiveControl = \"PicPaint\"\nvPencil.Min = 160\n");
+}
+
+TEST_F(ScriptRun, ScreenshotShowsTheWindow) {
+  const QString shot = dir.filePath("shot.png");
+  EXPECT_EQ(run("screenshot " + shot), 0);
+  const QImage img(shot);
+  ASSERT_FALSE(img.isNull());
+  EXPECT_GT(img.width(), 600);
+}
+
+TEST(ScriptMessageBox, PrintedAndAnsweredWhenNobodySeesIt) {
+  QString printed;
+  QTextStream out(&printed);
+  // A small screen makes the start-up recommend a bigger one.
+  HeadlessSession small(1, QSize(800, 600), out);
+  Runner runner(small.program(), small.rt(), small, out, out);
+  std::vector<Command> c;
+  ParseError perr;
+  ASSERT_TRUE(parseScript("expect msgbox \"1024x768 Screen Resolution is recommended\"", c, perr));
+  EXPECT_EQ(runner.runAll(c), 0);
+  out.flush();
+  EXPECT_TRUE(printed.startsWith("msgbox \"Optimize Display...\" \"1024x768 Screen Resolution is recommended\"\n"))
+      << printed.toStdString();
+}
+
+}  // namespace qp::script
