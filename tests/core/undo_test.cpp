@@ -72,15 +72,6 @@ TEST_F(UndoTest, AfterAModeChangeTheStrokeNeedsTheSecondLevel) {
   EXPECT_EQ(pixel(100, 100), kBlack);
 }
 
-TEST_F(UndoTest, ARightClickUndoesTheLastStrokeOnly) {
-  drawDot(1500, 1500);
-  drawDot(3000, 3000);
-  press(0, 0, vbRightButton);
-  release(0, 0, vbRightButton);
-  EXPECT_EQ(pixel(200, 200), kBlack);
-  EXPECT_EQ(pixel(100, 100), kWhite);
-}
-
 TEST_F(UndoTest, TheCanvasColourReplacesThePictureForGood) {
   drawDot(1500, 1500);
   f().lColor.BackColor = 0x0000FF;

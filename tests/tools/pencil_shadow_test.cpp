@@ -41,12 +41,6 @@ TEST_F(PencilTest, MovesJoinIntoOneLineInTheForeColour) {
   EXPECT_EQ(m().LastY, 3000);
 }
 
-TEST_F(PencilTest, MovesWithoutTheLeftButtonPaintNothing) {
-  move(1500, 1500, 0);
-  move(3000, 1500, 0);
-  EXPECT_EQ(pixel(150, 100), kBlack);
-}
-
 TEST_F(PencilTest, TheNextSegmentStartsAtTheRawEventPosition) {
   press(1500, 1500);
   move(1500, 1507.4f);
