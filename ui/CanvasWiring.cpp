@@ -8,7 +8,6 @@
 #include "core/Layout.h"
 #include "core/PaintModes.h"
 #include "core/Panel.h"
-#include "core/PanelEvents.h"
 #include "core/PanelRoles.h"
 #include "core/Pipeline.h"
 #include "core/Startup.h"
@@ -113,7 +112,6 @@ void wireCanvas(Session& s, const std::function<void()>& quit) {
   wireCanvasEvents(s, quit);
   wireCanvasSize(s);
   wireColours(s);
-  wirePanelEvents(s);
   wirePanel(s);  // the panel's own meaning of its bars and boxes, then the tool's hooks
   wireEditCommands(s);
   wireKeyboard(s, quit);
