@@ -81,6 +81,18 @@ void wireCanvasEvents(Session& s, const std::function<void()>& quit) {
   f.m64x48.Click = [&s] { m64x48_Click(s); };
   f.m8x6.Click = [&s] { SetCanvasSize(s, 13760, 10785, 11995, 7200); };
   f.m768.Click = [&s] { SetCanvasSize(s, 13280, 8985, 11515, 7200); };
+  // The draw width bar sets the width the tools draw with, and says it.
+  auto widthBar = [&s] {
+    frmCanvas& f = s.f;
+    trap([&] {
+      s.m.DrawWidth = f.vPencil.Value.get();
+      f.PicPaint.DrawWidth = s.m.DrawWidth.value();
+      f.pPix.DrawWidth = s.m.DrawWidth.value();
+      f.lPenVal.Caption = "Draw Width : " + QString::number(s.m.DrawWidth);
+    });
+  };
+  f.vPencil.Change = widthBar;
+  f.vPencil.Scroll = widthBar;
   f.mnuUndo.Click = [&s] {
     StopAllTools(s);
     UndoOnce(s);

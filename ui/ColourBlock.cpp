@@ -7,10 +7,10 @@ namespace qp {
 ColourBlock::ColourBlock(Form& f)
     : fColors(&f, nullptr, "fColors"),
       pColor(&f, &fColors, "pColor"),
-      lForclr(&f, &fColors, "lForclr"),
-      lBkclr(&f, &fColors, "lBkclr"),
-      lColor(&f, &fColors, "lColor"),
       lBg(&f, &fColors, "lBg"),
+      lBkclr(&f, &fColors, "lBkclr"),
+      lForclr(&f, &fColors, "lForclr"),
+      lColor(&f, &fColors, "lColor"),
       pR(&f, &fColors, "pR"),
       pG(&f, &fColors, "pG"),
       pB(&f, &fColors, "pB"),

@@ -12,10 +12,10 @@ struct ColourBlock {
 
   Frame fColors;
   PictureBox pColor;   // the swatch
-  Label lForclr;       // fore colour: the truth of ForeClr
+  Label lBg;           // canvas colour, behind the fore and back colours
   Label lBkclr;        // back colour
+  Label lForclr;       // fore colour: the truth of ForeClr
   Label lColor;        // third colour of the tools
-  Label lBg;           // canvas colour
   PictureBox pR, pG, pB;  // one-colour value strips
   Frame fBow;          // colour option bar
   VScrollBar vColmode; // Colour Mode: Standard, Rainbow, Glow, Gradient

@@ -1,6 +1,8 @@
 // Building the widgets of a form and keeping them in step with the controls.
 #include "platform/qt/FormView.h"
 
+#include <QPalette>
+
 #include <QAbstractSlider>
 #include <QCheckBox>
 #include <QComboBox>
@@ -266,6 +268,14 @@ void FormView::apply(Entry& e) {
   else w->setCursor(cursorFor(*v));
   w->setAcceptDrops(v->OLEDropEnabled);
   const QSignalBlocker quiet(w);  // showing a value is not the user changing it
+  if (e.kind == ControlKind::Frame || e.kind == ControlKind::CheckBox || e.kind == ControlKind::OptionButton) {
+    // Panels and their boxes show the form's colours, as designed, not the desktop theme's.
+    QPalette pal = w->palette();
+    pal.setColor(QPalette::Window, toQColor(v->BackColor));
+    pal.setColor(QPalette::WindowText, toQColor(v->ForeColor));
+    if (pal != w->palette()) w->setPalette(pal);
+    w->setAutoFillBackground(true);
+  }
   switch (e.kind) {
     case ControlKind::Frame: static_cast<QGroupBox*>(w)->setTitle(static_cast<Frame&>(c).Caption); break;
     case ControlKind::VScrollBar: case ControlKind::HScrollBar: {
