@@ -144,6 +144,9 @@ void canvasGradients(Session& s) {
   f.vVal1.Value = 0;
 }
 
+// Shadow Text picks its font and shadow offset in its own frame over the canvas.
+void shadowText(Session& s) { s.f.fShad.Visible = true; }
+
 void transparentMode(Session& s) {
   frmCanvas& f = s.f;
   // A picture the Transparency Tool has made ready stays; otherwise the brush starts empty.
@@ -179,7 +182,7 @@ const std::vector<Entry>& entries() {
       {24, 0, 0, Axes | Interval | ColourBar, mirrorDraw, true},
       {25, nullopt, nullopt, CanvasButton | ColourBar | NoPointerBox | NoPencil, canvasGradients},
       {26, nullopt, 0, NoOpen | NoPencil | ColourCover | Interval | PixelSurface, transparentMode},
-      {29, nullopt, nullopt, ColourBar},
+      {29, nullopt, nullopt, ColourBar, shadowText},
       {30, nullopt, nullopt, NoInterval | ColourBar | WidthLimits},
   };
   return kEntries;

@@ -131,6 +131,15 @@ TEST_F(Modes, LeavingAPixelModeMovesTheCanvasBackFromThePixelSurface) {
   EXPECT_EQ(pixel(15, 10), 0xFF00FF);
 }
 
+TEST_F(Modes, ShadowTextOpensItsSampleFrameAndTheNextModeClosesIt) {
+  choose(f().mShadTx);
+  EXPECT_TRUE(f().fShad.Visible);
+  EXPECT_TRUE(f().fBow.Visible);
+  EXPECT_EQ(f().lStats.Caption.get(), "Proceed...");
+  choose(f().mPencil);
+  EXPECT_FALSE(f().fShad.Visible);
+}
+
 TEST_F(Modes, StopAllToolsStopsThePaintTimersButNotTheTransientColours) {
   for (Timer* t : {&f().tAir, &f().tDraw, &f().tGrad, &f().tBrush, &f().tDclrz}) t->Enabled = true;
   f().lTell.Caption = "Maximum";
