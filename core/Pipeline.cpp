@@ -1,6 +1,7 @@
 #include "core/Pipeline.h"
 
 #include "color/ColourEngine.h"
+#include "core/Help.h"
 #include "core/ToolTable.h"
 #include "core/Undo.h"
 #include "ui/frmCanvas.h"
@@ -8,9 +9,6 @@
 namespace qp {
 
 namespace {
-
-// The help line of the mode under the pointer; the texts come with the help of each mode.
-void ShowModeHelp(Session&) {}
 
 void hideGuides(frmCanvas& f) {
   for (Line* l : {&f.lnX, &f.lnY, &f.lnPX, &f.lnPY}) l->Visible = false;
@@ -27,23 +25,25 @@ void setPointer(frmCanvas& f, Single X, Single Y) {
   f.PointerY = CInt(Y);
 }
 
-// The closing steps of a release: every stroke ends here, also one whose release failed.
+// The closing steps of a release: every stroke ends here, also one whose release failed. Each
+// step stands on its own, so that one that cannot be done (a release so far off the canvas that
+// its position overflows, a canvas of no size) leaves no timer running and no message standing.
 void closeStroke(Session& s, Single X, Single Y) {
   frmCanvas& f = s.f;
-  trap([&] {
-    f.tGrad.Enabled = false;
-    f.tSphere.Enabled = false;
-    f.PicPaint.ScaleWidth = f.PicPaint.Width;
-    f.PicPaint.ScaleHeight = f.PicPaint.Height;
-    f.PicPaint.DrawWidth = s.m.DrawWidth;
-    hideGuides(f);
-    f.AutoDrawX = CInt(X);  // AutoDraw goes on from where the mouse left the canvas
-    f.AutoDrawY = CInt(Y);
-    f.lHelp.ForeColor = 0xC0C0C0;
-    f.lTell.Caption = "";
-    f.mSel.Enabled = true;
-    if (f.ckDcolz.Value == 1) f.tDclrz.Enabled = false;
-  });
+  trap([&] { f.tGrad.Enabled = false; });
+  trap([&] { f.tSphere.Enabled = false; });
+  trap([&] { f.PicPaint.ScaleWidth = f.PicPaint.Width; });
+  trap([&] { f.PicPaint.ScaleHeight = f.PicPaint.Height; });
+  trap([&] { f.PicPaint.DrawWidth = s.m.DrawWidth; });
+  trap([&] { hideGuides(f); });
+  // AutoDraw goes on from where the mouse left the canvas, or from its last place when that
+  // position is out of reach.
+  trap([&] { f.AutoDrawX = CInt(X); });
+  trap([&] { f.AutoDrawY = CInt(Y); });
+  trap([&] { f.lHelp.ForeColor = 0xC0C0C0; });
+  trap([&] { f.lTell.Caption = ""; });
+  trap([&] { f.mSel.Enabled = true; });
+  trap([&] { if (f.ckDcolz.Value == 1) f.tDclrz.Enabled = false; });
 }
 
 }  // namespace
@@ -100,6 +100,7 @@ void PicPaint_MouseMove(Session& s, int Button, int Shift, Single X, Single Y) {
 
 void PicPaint_MouseUp(Session& s, int Button, int Shift, Single X, Single Y) {
   frmCanvas& f = s.f;
+  bool pointerBack = false;
   const bool picked = [&] {
     bool pick = false;
     trap([&] {
@@ -110,6 +111,7 @@ void PicPaint_MouseUp(Session& s, int Button, int Shift, Single X, Single Y) {
       f.tGrdTx.Enabled = false;
       setPointer(f, X, Y);
       f.PicPaint.MousePointer = f.PointerShape;
+      pointerBack = true;
       if (Button == vbLeftButton) {
         f.lXb.ToolTipText = f.lXb.ToolTipText.get() + "   Mouse Up X : " + single(X / 15.0);
         f.lYb.ToolTipText = f.lYb.ToolTipText.get() + "   Mouse Up Y : " + single(Y / 15.0);
@@ -132,6 +134,9 @@ void PicPaint_MouseUp(Session& s, int Button, int Shift, Single X, Single Y) {
     });
     return pick;
   }();
+  // A release whose position could not be held (Y past what a whole number of twips holds) jumps
+  // past the pointer's return; the pointer hidden for the stroke must still come back.
+  if (!pointerBack) trap([&] { f.PicPaint.MousePointer = f.PointerShape; });
   if (!picked) closeStroke(s, X, Y);
 }
 

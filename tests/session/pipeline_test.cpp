@@ -92,6 +92,34 @@ TEST_F(Pipeline, AFailingPressEndsOnlyThatPress) {
   EXPECT_EQ(f().DownButtonX, 20);
 }
 
+// A canvas scrolled far down or a wide screen lets the pointer leave the canvas by more twips than
+// a whole number of twips can hold. The release still ends the stroke: the colour generator stops,
+// the messages clear, the selection menu comes back and the hidden pointer shows again.
+TEST_F(Pipeline, AReleaseFarOffTheCanvasStillClosesTheStroke) {
+  f().ckDcolz.Value = 1;
+  f().ckHide.Value = 1;
+  for (const auto& [x, y] : {std::pair{40000.0f, 150.0f}, std::pair{150.0f, 40000.0f},
+                             std::pair{-40000.0f, -40000.0f}}) {
+    press(150, 150);
+    ASSERT_TRUE(f().tDclrz.Enabled);
+    ASSERT_EQ(f().PicPaint.MousePointer.get(), 99);
+    f().lTell.Caption = "Maximum";
+    f().mSel.Enabled = false;
+    f().PicPaint.ScaleWidth = f().PicPaint.Height;
+    release(x, y);
+    EXPECT_FALSE(f().tDclrz.Enabled) << x << "," << y;
+    EXPECT_EQ(f().lTell.Caption.get(), "") << x << "," << y;
+    EXPECT_TRUE(f().mSel.Enabled) << x << "," << y;
+    EXPECT_EQ(f().PicPaint.ScaleWidth.get(), f().PicPaint.Width.get());
+    EXPECT_EQ(f().PicPaint.MousePointer.get(), 2) << x << "," << y;
+  }
+  // AutoDraw goes on from the last place it could hold.
+  release(600, 750);
+  release(40000, 40000);
+  EXPECT_EQ(f().AutoDrawX, 600);
+  EXPECT_EQ(f().AutoDrawY, 750);
+}
+
 TEST_F(Pipeline, RightPressDoesNothingButItsFirstStep) {
   f().lTell.Caption = "Maximum";
   press(150, 150, vbRightButton);
