@@ -167,7 +167,9 @@ ControlPanel::ControlPanel(Form& f, Frame& strip)
   fInt.BackColor = kPanelBack;
   fInt.Visible = false;
   place(vInt, 0, 0, 255, 375);
-  setBar(vInt, 500, 1, 20, 1, 10);
+  // Away from the 20 that every mode change writes, so that the change at the end of start-up
+  // reaches vInt_Change and puts the paint timers on the shared interval.
+  setBar(vInt, 500, 1, 100, 1, 10);
 
   place(shErSize, 8580, 480, 120, 120);
   shErSize.Shape_ = 0;

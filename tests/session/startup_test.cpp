@@ -33,6 +33,31 @@ TEST_F(Startup, SessionStartsInFreehandSpiralzWithItsDefaults) {
   EXPECT_TRUE(headless.msgbox.shown().empty());  // 1280 pixels are wide enough
 }
 
+// The timers come with their own intervals; the mode change that ends start-up puts every paint
+// timer on the shared interval of 20 ms, so a Boxes N Bubblez stroke right after start-up runs at
+// 20 ms and not at its design 60.
+TEST(StartupTimers, DesignIntervalsGiveWayToTheSharedIntervalAtTheFirstModeChange) {
+  HeadlessRuntime h;
+  Program p(h.rt());
+  const std::pair<Timer*, int> design[] = {
+      {&p.f.tAir, 1},      {&p.f.tBrush, 60},  {&p.f.tBrushTime, 100}, {&p.f.tSphere, 100},
+      {&p.f.tGrad, 1},     {&p.f.tDclrz, 10},  {&p.f.tGrdTx, 200},     {&p.f.tDraw, 10},
+      {&p.f.tPix, 100},    {&p.f.tTemp, 200},  {&p.f.tPenUp, 120},     {&p.f.tPenDwn, 120}};
+  for (const auto& [timer, interval] : design) {
+    EXPECT_EQ(timer->Interval.get(), interval) << timer->Name().toStdString();
+    EXPECT_FALSE(timer->Enabled) << timer->Name().toStdString();
+  }
+  p.start();
+  for (Timer* t : {&p.f.tAir, &p.f.tDraw, &p.f.tGrdTx, &p.f.tBrushTime, &p.f.tBrush, &p.f.tSphere, &p.f.tPix})
+    EXPECT_EQ(t->Interval.get(), 20) << t->Name().toStdString();
+  // The colour timers and the key timers keep their own pace.
+  EXPECT_EQ(p.f.tGrad.Interval.get(), 1);
+  EXPECT_EQ(p.f.tDclrz.Interval.get(), 10);
+  EXPECT_EQ(p.f.tPenUp.Interval.get(), 120);
+  p.f.mBubble.raiseClick();
+  EXPECT_EQ(p.f.tBrush.Interval.get(), 20);
+}
+
 TEST_F(Startup, TitleNamesTheCanvasAndItsSize) {
   const int w = static_cast<int>(CInt(f().PicPaint.Width / 15.0));
   const int h = static_cast<int>(CInt(f().PicPaint.Height / 15.0));
