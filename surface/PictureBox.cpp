@@ -15,6 +15,7 @@ QImage ImageHandle::get() const { return owner_->image_; }
 ImageHandle::operator QImage() const { return get(); }
 
 PictureProp& PictureProp::operator=(const QImage& pic) {
+  owner_->checkAutoSize(pic);
   QImage next = pic;  // pic may be this very picture
   QImage old = std::move(pic_);
   pic_ = std::move(next);  // shared, not copied: the surface that draws next detaches its own bitmap
@@ -175,7 +176,35 @@ void PictureBox::clearTo(Colour c) {
   dirty_ = image_.rect();
 }
 
-void PictureBox::pictureAssigned() { clearTo(BackColor); }
+void PictureBox::pictureAssigned() {
+  if (AutoSize && !Picture.pic_.isNull()) adoptPictureSize();
+  clearTo(BackColor);
+}
+
+void PictureBox::checkAutoSize(const QImage& pic) const {
+  if (!AutoSize || pic.isNull()) return;
+  if (pic.width() > raster::kMaxSide || pic.height() > raster::kMaxSide ||
+      static_cast<long long>(pic.width()) * pic.height() > raster::kMaxPixels)
+    raiseError(RuntimeError::OutOfMemory, "Out of memory");
+}
+
+void PictureBox::adoptPictureSize() {
+  const QImage& pic = Picture.pic_;
+  const Single unit = parentInPixels() ? 1.0f : 15.0f;
+  const Single w = static_cast<Single>(pic.width()) * unit, h = static_cast<Single>(pic.height()) * unit;
+  if (w == Width.get() && h == Height.get()) return;
+  Width.setRaw(w);
+  Height.setRaw(h);
+  // The bitmap is about to show the picture whole: share it rather than keep the old drawing.
+  if (pic.format() == QImage::Format_RGB32) {
+    image_ = pic;
+    spare_ = QImage();
+  } else {
+    image_ = QImage();
+    resizeBitmap();
+  }
+  applyScaleMode();
+}
 
 void PictureBox::Cls() {
   clearTo(BackColor);

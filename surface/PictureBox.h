@@ -55,6 +55,9 @@ class PictureBox : public VisualControl {
   ControlKind kind() const override { return ControlKind::PictureBox; }
 
   Prop<bool> AutoRedraw{this, true};
+  // With AutoSize a picture assigned to the box gives the box its size; an empty picture leaves
+  // the size as it is.
+  Prop<bool> AutoSize{this, false};
   PictureProp Picture{this};
   ImageHandle Image{this};
 
@@ -138,6 +141,9 @@ class PictureBox : public VisualControl {
   friend class PictureProp;
   friend class ImageHandle;
   void pictureAssigned();
+  // AutoSize: refuses a picture too large for a surface before anything changes, then takes its size.
+  void checkAutoSize(const QImage& pic) const;
+  void adoptPictureSize();
   void resizeBitmap();
   void applyScaleMode();
   void clearTo(Colour c);
