@@ -33,6 +33,11 @@ class Form : public VisualControl {
   bool loaded() const { return loaded_; }
   bool isModal() const { return modal_; }
 
+  // The window is closed for good: hidden, and the next Show loads it afresh (raises Load).
+  void markUnloaded() {
+    Hide();
+    loaded_ = false;
+  }
   // Registry of the controls by name.
   void add(Control* c);
   void remove(Control* c);
