@@ -46,6 +46,9 @@ void resetPanel(Session& s) {
   f.vMin.Enabled = true;
   f.vMax.Enabled = true;
   f.cCan.ToolTipText = "";
+  // The Explorer panel's jokes belong to one mode each.
+  f.cPatt.ToolTipText = s.m.PaintMode == 14 ? kFilterJoke : "";
+  f.Dir1.ToolTipText = s.m.PaintMode == 0 ? kFolderJoke : "";
   for (Line* l : {&f.lnX, &f.lnY, &f.lnPX, &f.lnPY}) l->Visible = false;
   for (Label* l : {&f.lLnX, &f.lLnY, &f.lLnPX, &f.lLnPY}) l->Visible = false;
   f.cCan.Visible = false;

@@ -6,6 +6,7 @@
 #include "core/Layout.h"
 #include "core/Panel.h"
 #include "core/Undo.h"
+#include "ui/Windows.h"
 #include "ui/frmCanvas.h"
 
 namespace qp {
@@ -43,8 +44,8 @@ void mnuNew_Click(Session& s) {
   frmCanvas& f = s.f;
   trap([&] {
     StopAllTools(s);
-    // While the file window is open a new canvas waits; that window has yet to come, so it is
-    // never open here.
+    // While the file window is open a new canvas waits: the window may be about to save this one.
+    if (s.windows && s.windows->file.Visible) return;
     f.mLock.Checked = false;
     f.mLock.Caption = "Lock Canvas";
     f.CanvasLocked = 0;

@@ -9,12 +9,14 @@ namespace qp {
 
 class frmCanvas;
 class ToolTable;
+struct Windows;
 
 struct Session {
   ModQuillora& m;
   frmCanvas& f;
   Runtime& rt;
   ToolTable& tools;
+  Windows* windows = nullptr;  // the file window and the layout preview; absent in bare tests
 };
 
 }  // namespace qp

@@ -13,6 +13,7 @@
 #include "core/Startup.h"
 #include "core/Undo.h"
 #include "tools/AutoDraw.h"
+#include "files/OpenSave.h"
 #include "ui/Program.h"
 
 namespace qp {
@@ -130,4 +131,5 @@ void wireCanvas(Session& s, const std::function<void()>& quit) {
   wireAutoDraw(s);
 }
 
+  wireFiles(s);
 }  // namespace qp

@@ -5,7 +5,7 @@
 namespace qp {
 
 Program::Program(Runtime& rt, std::function<void()> quit)
-    : f(rt), s{m, f, rt, tools}, quit_(std::move(quit)) {
+    : f(rt), w(rt), s{m, f, rt, tools, &w}, quit_(std::move(quit)) {
   registerTools(tools);
   wireCanvas(s, [this] {
     quitRequested_ = true;

@@ -6,6 +6,7 @@
 #include "core/ModQuillora.h"
 #include "core/Session.h"
 #include "core/ToolTable.h"
+#include "ui/Windows.h"
 #include "ui/frmCanvas.h"
 
 namespace qp {
@@ -23,6 +24,7 @@ class Program {
 
   ModQuillora m;
   frmCanvas f;
+  Windows w;  // the other windows: the file window and the layout preview
   ToolTable tools;
   Session s;
 

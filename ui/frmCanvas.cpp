@@ -12,6 +12,7 @@ frmCanvas::frmCanvas(Runtime& rt)
       CanvasArea(static_cast<Form&>(*this)),
       ColourBlock(static_cast<Form&>(*this)),
       ControlPanel(static_cast<Form&>(*this), fColors),
+      ExplorerPanel(static_cast<Form&>(*this), fX),
       CanvasMenus(static_cast<Form&>(*this)) {
   Caption = " Quillora Pro";
   KeyPreview = true;

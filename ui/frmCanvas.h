@@ -9,6 +9,7 @@
 #include "ui/CanvasVars.h"
 #include "ui/ColourBlock.h"
 #include "ui/ControlPanel.h"
+#include "ui/ExplorerPanel.h"
 
 namespace qp {
 
@@ -17,6 +18,7 @@ class frmCanvas : public Form,
                   public CanvasArea,
                   public ColourBlock,
                   public ControlPanel,
+                  public ExplorerPanel,
                   public CanvasMenus,
                   public CanvasVars {
  public:

@@ -1,0 +1,194 @@
+// The file window: its lists, its folder memory in the main window's labels, and OK, which opens or
+// saves according to the caption the opener gave the window.
+#include "files/FileDialog.h"
+
+#include "core/Layout.h"
+#include "files/PictureFiles.h"
+#include "files/SavePath.h"
+#include "ui/Windows.h"
+#include "ui/frmCanvas.h"
+
+namespace qp {
+
+frmFile* fileWindow(Session& s) { return s.windows ? &s.windows->file : nullptr; }
+
+bool fileWindowShown(Session& s) {
+  frmFile* d = fileWindow(s);
+  return d && d->Visible;
+}
+
+void ShowFileDialog(Session& s, const QString& caption) {
+  frmFile* d = fileWindow(s);
+  if (!d) return;
+  d->Caption = caption;
+  d->Show(false);
+}
+
+namespace {
+
+// What each save caption writes. The tile, stretch, blend and blue-screen workshops have no
+// window in this program yet, so their captions write nothing; OK then only closes, as it does
+// for a caption it does not know.
+struct SaveKind {
+  const QString& caption;
+  QImage (*picture)(Session&);  // null: nothing to write
+  bool namesCanvas;             // the saved file becomes the canvas's file
+};
+
+QImage canvasImage(Session& s) { return s.f.PicPaint.Image; }
+QImage selectionImage(Session& s) { return s.f.pSpire.Image; }
+
+const SaveKind kSaveKinds[] = {
+    {FileMode::SaveImage, canvasImage, true},
+    {FileMode::SaveSelection, selectionImage, false},
+    {FileMode::SaveTiled, nullptr, false},
+    {FileMode::SaveStretched, nullptr, false},
+    {FileMode::SaveCropped, nullptr, false},
+    {FileMode::SaveBlended, nullptr, false},
+    {FileMode::SaveBlueScreen, nullptr, false},
+    {FileMode::SaveMask, nullptr, false},
+};
+
+const SaveKind* saveKindOf(const QString& caption) {
+  for (const SaveKind& k : kSaveKinds)
+    if (k.caption == caption) return &k;
+  return nullptr;
+}
+
+// The stretcher's picture holder is not part of the program yet: its load mode finds no target.
+void loadForStretcher(Session&, const QString&) {}
+
+// Runs one statement of a routine whose errors are stepped over, one by one.
+template <class F>
+void stepOver(F&& f) {
+  trap(std::forward<F>(f));
+}
+
+// Returns false when OK must stop with the window left as it is.
+bool saveBranch(Session& s, frmFile& d, const SaveKind& kind) {
+  const SavePath target = ComposeSavePath(d.Dir1.Path, d.TxtFile.Text);
+  d.TxtFile.Text = target.name;
+  if (target.refused) {
+    s.rt.msgbox.MsgBox(jpgRefusalMessage(), vbOKOnly, QString());
+    return false;
+  }
+  if (!kind.picture) return true;
+  SavePicture(kind.picture(s), target.path);
+  if (kind.namesCanvas) s.m.CurrentFile = target.path;
+  return true;
+}
+
+bool loadBranch(Session& s, frmFile& d, const QString& caption) {
+  frmCanvas& f = s.f;
+  // A looser filter than the type list's: "*jpg" also lists names that merely end in those letters.
+  d.File1.Pattern = d.CmbType.ListIndex == 0 ? QString("*.bmp") : QString("*jpg");
+  const QString path = joinPath(d.Dir1.Path, d.TxtFile.Text);
+  s.m.CurrentFile = "";
+  if (d.File1.FileName().isEmpty()) return false;  // a typed name alone opens nothing
+  if (caption == FileMode::OpenImage) {
+    const QImage picture = LoadPicture(path);
+    f.PicPaint.Picture = picture;
+    f.pPix.Picture = picture;
+    s.m.CurrentFile = path;
+    // The canvas trigger places the Explorer's preview; here that preview is this very picture.
+    f.imPre.Picture = picture;
+    f.imPre.touch();
+    f.lPic.Caption = s.m.CurrentFile;
+    f.lDir.Caption = d.Dir1.Path.get();
+  } else {
+    loadForStretcher(s, path);
+  }
+  return true;
+}
+
+}  // namespace
+
+void frmFile_Load(Session& s) {
+  frmFile* d = fileWindow(s);
+  if (!d) return;
+  frmCanvas& f = s.f;
+  trap([&] {
+    d->File1.Refresh();
+    const QString caption = d->Caption;
+    // Both remembered places are read first: choosing the drive writes the folder memory.
+    const QString drive = f.lDrive.Caption, folder = f.lDir.Caption;
+    if ((caption == FileMode::OpenImage || caption == FileMode::SaveImage) && !folder.isEmpty()) {
+      d->Drive1.Drive = drive;
+      d->Dir1.Path = folder;
+    }
+    d->CmbType.ListIndex = 0;
+  });
+}
+
+void CmbType_Click(Session& s) {
+  frmFile* d = fileWindow(s);
+  if (!d) return;
+  trap([&] {
+    if (d->CmbType.ListIndex == 0) d->File1.Pattern = "*.bmp";
+    else if (d->CmbType.ListIndex == 1) d->File1.Pattern = "*.jpg";
+  });
+}
+
+void frmFile_Drive1_Change(Session& s) {
+  frmFile* d = fileWindow(s);
+  if (!d) return;
+  trap([&] {
+    d->Dir1.Path = d->Drive1.Drive.get();
+    s.f.lDrive.Caption = d->Drive1.Drive.get();
+  });
+}
+
+void frmFile_Dir1_Change(Session& s) {
+  frmFile* d = fileWindow(s);
+  if (!d) return;
+  stepOver([&] { d->File1.Path = d->Dir1.Path.get(); });
+  stepOver([&] { s.f.lDrive.Caption = d->Drive1.Drive.get(); });
+  stepOver([&] { s.f.lDir.Caption = d->Dir1.Path.get(); });
+}
+
+void frmFile_File1_Click(Session& s) {
+  frmFile* d = fileWindow(s);
+  if (!d) return;
+  trap([&] {
+    const QString name = d->File1.FileName();
+    if (name.isEmpty()) return;
+    d->TxtFile.Text = name;
+    // A file that cannot be decoded keeps the old preview; the name stays chosen all the same.
+    d->imPreview.Picture = LoadPicture(joinPath(d->File1.Path, name));
+    d->imPreview.touch();
+  });
+}
+
+void cmdOK_Click(Session& s) {
+  frmFile* d = fileWindow(s);
+  if (!d) return;
+  trap([&] {
+    const QString caption = d->Caption;
+    bool close = true;
+    if (caption == FileMode::OpenImage || caption == FileMode::LoadStretch) close = loadBranch(s, *d, caption);
+    else if (const SaveKind* kind = saveKindOf(caption)) close = saveBranch(s, *d, *kind);
+    if (!close) return;
+    SetTitle(s);
+    d->Hide();
+  });
+}
+
+void CmdCancel_Click(Session& s) {
+  if (frmFile* d = fileWindow(s)) d->unload();
+}
+
+void wireFileDialog(Session& s) {
+  frmFile* d = fileWindow(s);
+  if (!d) return;
+  d->Load = [&s] { frmFile_Load(s); };
+  d->Unload = [d] { d->unload(); };  // closed from its title bar: the same as Cancel
+  d->CmbType.Click = [&s] { CmbType_Click(s); };
+  d->Drive1.Change = [&s] { frmFile_Drive1_Change(s); };
+  d->Dir1.Change = [&s] { frmFile_Dir1_Change(s); };
+  d->File1.Click = [&s] { frmFile_File1_Click(s); };
+  d->File1.DblClick = [&s] { cmdOK_Click(s); };
+  d->cmdOK.Click = [&s] { cmdOK_Click(s); };
+  d->CmdCancel.Click = [&s] { CmdCancel_Click(s); };
+}
+
+}  // namespace qp

@@ -1,0 +1,199 @@
+// Bringing a picture onto the canvas: the Explorer panel, a drop, New, the title, the lock.
+#include "FilesFixture.h"
+
+namespace qp::test {
+namespace {
+
+class OpenTest : public FilesTest {};
+
+TEST_F(OpenTest, ASavedDrawingOpensAgainThroughTheExplorerWithTheSamePixels) {
+  choose(f().mPencil);
+  f().vColmode.Value = 0;
+  press(1500, 1500);
+  move(4500, 3000);
+  release(4500, 3000);
+  const QImage drawn = canvas();
+  ASSERT_NE(drawn.pixel(100, 100), drawn.pixel(5, 5));
+
+  choose(f().mnuSave);
+  dialog().Dir1.Path = folder.path();
+  dialog().TxtFile.Text = "drawing";
+  dialog().cmdOK.raiseClick();
+  ASSERT_FALSE(dialog().Visible);
+  EXPECT_EQ(m().CurrentFile, at("drawing.bmp"));
+
+  choose(f().mnuNew);
+  EXPECT_NE(canvas(), drawn);
+  openThroughExplorer("drawing.bmp");
+  EXPECT_EQ(canvas(), drawn);
+  EXPECT_EQ(m().CurrentFile, at("drawing.bmp"));
+  EXPECT_FALSE(f().fX.Visible);
+  EXPECT_EQ(f().lPic.Caption.get(), "");  // the trigger is ready for the next picture
+  EXPECT_EQ(f().Caption.get(), QString(" Quillora Pro - drawing.bmp   %1 x %2").arg(drawn.width()).arg(drawn.height()));
+}
+
+TEST_F(OpenTest, TheCanvasTakesThePicturesSizeAndScrollsWhenItIsLarger) {
+  writePicture("big.bmp", patternPicture(1200, 900));
+  writePicture("small.bmp", patternPicture(40, 30));
+  openThroughExplorer("big.bmp");
+  EXPECT_EQ(f().PicPaint.pixelWidth(), 1200);
+  EXPECT_EQ(f().PicPaint.Width.get(), 1200 * 15);
+  EXPECT_TRUE(f().vWidth.Visible);
+  EXPECT_TRUE(f().vHigh.Visible);
+  EXPECT_TRUE(f().mLo.Visible);
+  EXPECT_EQ(f().pPix.pixelWidth(), 1200);  // the pixel twin follows
+  openThroughExplorer("small.bmp");
+  EXPECT_EQ(f().PicPaint.pixelHeight(), 30);
+  EXPECT_FALSE(f().vWidth.Visible);
+  // Undo brings the previous picture back at its own size.
+  choose(f().mnuUndo);
+  EXPECT_EQ(f().PicPaint.pixelWidth(), 1200);
+}
+
+TEST_F(OpenTest, TheCanvasGetsThePreviewedPictureNotANewReadOfTheFile) {
+  writePicture("one.bmp", patternPicture(50, 40));
+  writePicture("two.bmp", patternPicture(20, 10));
+  choose(f().mnuOpen);
+  pressInExplorer("one.bmp");
+  // The second name is chosen with the keyboard: the list moves, but no press previews it.
+  f().File1.ListIndex = static_cast<int>(f().File1.items().indexOf("two.bmp"));
+  f().cPic.raiseClick();
+  EXPECT_EQ(f().PicPaint.pixelWidth(), 50);
+  EXPECT_EQ(m().CurrentFile, at("two.bmp"));
+}
+
+TEST_F(OpenTest, OnlyALeftPressPreviewsAndNothingChosenTakesNothing) {
+  writePicture("one.bmp", patternPicture(50, 40));
+  choose(f().mnuOpen);
+  f().Dir1.Path = folder.path();
+  f().cPic.raiseClick();  // nothing chosen yet
+  EXPECT_TRUE(f().fX.Visible);
+  EXPECT_EQ(m().CurrentFile, "");
+  f().File1.ListIndex = 0;
+  f().File1.raiseMouseDown(vbRightButton, 0, 0, 0);
+  EXPECT_TRUE(f().imPre.Picture.isNull());
+  f().File1.raiseMouseDown(vbLeftButton, 0, 0, 0);
+  EXPECT_EQ(f().imPre.Picture.size(), QSize(50, 40));
+}
+
+TEST_F(OpenTest, TheFilterButtonFlipsBetweenBitmapsAndJpegs) {
+  writePicture("a.bmp", patternPicture(4, 4));
+  writePicture("b.jpg", patternPicture(4, 4), "JPEG");
+  f().Dir1.Path = folder.path();
+  EXPECT_EQ(f().File1.items(), QStringList({"a.bmp"}));
+  f().cPatt.raiseClick();
+  EXPECT_EQ(f().File1.items(), QStringList({"b.jpg"}));
+  f().cPatt.raiseClick();
+  EXPECT_EQ(f().File1.items(), QStringList({"a.bmp"}));
+  f().File1.Pattern = "*.*";  // any other filter stays as it is
+  f().cPatt.raiseClick();
+  EXPECT_EQ(f().File1.Pattern.get(), "*.*");
+}
+
+TEST_F(OpenTest, ClosingThePanelBringsBackThePointerAndTheHelpLineNamesEachControl) {
+  choose(f().mArrow);
+  choose(f().mnuOpen);
+  f().PicPaint.MousePointer = 0;
+  f().cCancel.raiseClick();
+  EXPECT_FALSE(f().fX.Visible);
+  EXPECT_EQ(f().PicPaint.MousePointer.get(), 1);
+  f().cPatt.raiseMouseMove(0, 0, 10, 10);
+  EXPECT_EQ(f().lHelp.Caption.get(), "Click to toggle image file filter (*.bmp or *.jpg files)");
+  f().File1.raiseMouseMove(0, 0, 10, 10);
+  EXPECT_EQ(f().lHelp.Caption.get(), "Click to preview image file");
+}
+
+TEST_F(OpenTest, TheJokesShowInTheirOwnModeOnly) {
+  choose(f().mPencil);
+  EXPECT_EQ(f().Dir1.ToolTipText.get(), kFolderJoke);
+  EXPECT_EQ(f().cPatt.ToolTipText.get(), "");
+  choose(f().mPwp);
+  EXPECT_EQ(f().cPatt.ToolTipText.get(), kFilterJoke);
+  EXPECT_EQ(f().Dir1.ToolTipText.get(), "");
+  choose(f().mAir);
+  EXPECT_EQ(f().cPatt.ToolTipText.get(), "");
+}
+
+TEST_F(OpenTest, ALockedCanvasRefusesOpenButTakesADroppedFile) {
+  const QString path = writePicture("drop.bmp", patternPicture(64, 48));
+  choose(f().mLock);
+  choose(f().mnuOpen);
+  ASSERT_EQ(headless.msgbox.shown().size(), 1u);
+  EXPECT_EQ(headless.msgbox.shown()[0].prompt, "Unlock canvas to open image file");
+  EXPECT_EQ(headless.msgbox.shown()[0].buttons, vbOKOnly);
+  EXPECT_FALSE(f().fX.Visible);
+
+  f().PicPaint.OLEDragDrop({path, at("other.bmp")}, vbLeftButton, 0, 0, 0);
+  EXPECT_EQ(canvas(), patternPicture(64, 48));
+  EXPECT_EQ(m().CurrentFile, path);
+  EXPECT_EQ(f().CanvasLocked, -1);  // the lock stays
+  EXPECT_EQ(f().Caption.get(), " Quillora Pro - drop.bmp   64 x 48");
+}
+
+TEST_F(OpenTest, ADropThatFailsLeavesTheCanvasButKeepsItsSnapshot) {
+  choose(f().mPencil);
+  press(1500, 1500);
+  release(1500, 1500);
+  const QImage before = canvas();
+  const QString named = m().CurrentFile;
+  f().PicPaint.OLEDragDrop({at("missing.bmp")}, vbLeftButton, 0, 0, 0);
+  EXPECT_EQ(canvas(), before);
+  EXPECT_EQ(m().CurrentFile, named);
+  EXPECT_EQ(QImage(f().PicUndo.Image), before);  // the snapshot was taken before the load failed
+}
+
+TEST_F(OpenTest, NewKeepsTheSizeClearsTheLockAndNamesAnUntitledCanvas) {
+  writePicture("big.bmp", patternPicture(900, 700));
+  openThroughExplorer("big.bmp");
+  choose(f().mLock);
+  choose(f().mnuNew);
+  EXPECT_EQ(f().CanvasLocked, 0);
+  EXPECT_EQ(f().mLock.Caption.get(), "Lock Canvas");
+  EXPECT_FALSE(f().mLock.Checked);
+  EXPECT_EQ(m().CurrentFile, "");
+  EXPECT_EQ(m().PaintMode, 0);
+  EXPECT_EQ(f().PicPaint.pixelWidth(), 900);
+  EXPECT_EQ(f().Caption.get(), " Quillora Pro - Untitled.bmp - 900 x 700");
+}
+
+TEST_F(OpenTest, WhileTheFileWindowIsUpNewOpenAndSaveDoNothing) {
+  writePicture("a.bmp", patternPicture(30, 20));
+  openThroughExplorer("a.bmp");
+  choose(f().mnuSave);
+  ASSERT_TRUE(dialog().Visible);
+  dialog().Width = 6000;
+  choose(f().mnuNew);
+  choose(f().mnuOpen);
+  choose(f().mnuSave);
+  EXPECT_EQ(m().CurrentFile, at("a.bmp"));
+  EXPECT_FALSE(f().fX.Visible);
+  EXPECT_EQ(dialog().Width.get(), 6000);  // a second Save did not narrow it again
+}
+
+TEST_F(OpenTest, TheLayoutPreviewShowsTheCanvasAtAThird) {
+  choose(f().mPencil);  // the canvas is shown itself, not through its pixel twin
+  f().PicPaint.Width = 9600;
+  f().PicPaint.Height = 7200;
+  f().mLo.Visible = true;
+  choose(f().mLo);
+  frmLO& lo = program->w.lo;
+  EXPECT_TRUE(lo.Visible);
+  EXPECT_EQ(lo.pLO.Width.get(), 3200);
+  EXPECT_EQ(lo.pLO.Height.get(), 2400);
+  EXPECT_EQ(lo.pLO.pixelWidth(), 213);
+  EXPECT_EQ(lo.pLO.pixelHeight(), 160);
+  EXPECT_EQ(lo.Width.get(), 3620);
+  EXPECT_EQ(lo.Height.get(), 3040);
+  EXPECT_EQ(lo.iLO.Width.get(), 3200);
+  EXPECT_EQ(lo.shLO.Width.get(), 3080);
+  EXPECT_EQ(lo.iLO.Picture.size(), QSize(640, 480));
+  // A snapshot: painting on leaves it, a click on it takes the canvas again.
+  press(1500, 1500);
+  release(1500, 1500);
+  EXPECT_NE(lo.iLO.Picture, canvas());
+  lo.iLO.raiseClick();
+  EXPECT_EQ(lo.iLO.Picture, canvas());
+}
+
+}  // namespace
+}  // namespace qp::test
