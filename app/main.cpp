@@ -96,6 +96,9 @@ int main(int argc, char** argv) {
   qp::QtRuntime runtime(static_cast<std::uint32_t>(QDateTime::currentMSecsSinceEpoch()));
   qp::Program program(runtime.rt(), [] { QApplication::exit(0); });
   qp::FormView view(program.f);
+  // The other windows each have a view of their own; each shows itself when its form does.
+  qp::FormView fileView(program.w.file);
+  qp::FormView layoutView(program.w.lo);
   program.start();
   view.sync();
   view.window().show();

@@ -1,6 +1,7 @@
 // The panel row of each paint mode: its value bars, the height of the panel, the mode display and
 // the state word. Kept as data so that one routine applies every mode alike.
 #include <QString>
+#include <algorithm>
 #include <optional>
 #include <vector>
 
@@ -90,6 +91,14 @@ int valueFrom(Session& s, const Bar& b) {
   return b.value;
 }
 
+// Another mode's wider bar can carry a variable past this bar's end (Single Line's offset goes to
+// 1200, Shadow Draw's stops at 960). Such a value stands at the bar's nearer end instead of being
+// refused, which would end the mode change half way and leave the panel of neither mode.
+int withinBar(int value, const Bar& b) {
+  if (b.from == From::Fixed) return value;
+  return std::clamp(value, std::min(b.min, b.max), std::max(b.min, b.max));
+}
+
 }  // namespace
 
 void ApplyModeRow(Session& s) {
@@ -109,7 +118,7 @@ void ApplyModeRow(Session& s) {
       if (b.live) f.Shadow(b.row).BorderColor = kLiveFrame;
       bar.Min = b.min;
       bar.Max = b.max;
-      bar.Value = value;
+      bar.Value = withinBar(value, b);
       bar.SmallChange = b.small;
       bar.LargeChange = b.large;
       if (!b.enabled) bar.Enabled = false;

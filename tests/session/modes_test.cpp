@@ -140,6 +140,23 @@ TEST_F(Modes, ShadowTextOpensItsSampleFrameAndTheNextModeClosesIt) {
   EXPECT_FALSE(f().fShad.Visible);
 }
 
+// A mode's bar may take its value from a session variable that another mode's wider bar has
+// pushed past this bar's end. The mode still builds its whole panel, the bar standing at its end.
+TEST_F(Modes, AnOffsetTooWideForTheNextModesBarStillGivesThatModeItsPanel) {
+  choose(f().mSingle);
+  f().ckVal.Value = 1;  // the offset row answers once the shadow line is on
+  f().vVal1.Value = 1200;
+  ASSERT_EQ(m().StepSize, 1200);
+  choose(f().mShadow);  // its offset bar ends at 960
+  EXPECT_TRUE(f().ckVal.Visible);
+  EXPECT_TRUE(f().ckVal2.Visible);
+  EXPECT_TRUE(f().cSwap.Visible);
+  EXPECT_TRUE(f().fBow.Visible);
+  EXPECT_EQ(f().lStats.Caption.get(), "Proceed...");
+  EXPECT_EQ(f().vVal1.Value.get(), 960);
+  EXPECT_EQ(m().StepSize, 960);
+}
+
 TEST_F(Modes, StopAllToolsStopsThePaintTimersButNotTheTransientColours) {
   for (Timer* t : {&f().tAir, &f().tDraw, &f().tGrad, &f().tBrush, &f().tDclrz}) t->Enabled = true;
   f().lTell.Caption = "Maximum";
