@@ -1,6 +1,7 @@
 // The monkey: random inputs, seeded so that any failure replays, over every menu item, control
 // and surface of the program. It checks that the program survives whatever a user could do:
 // no crash, no hang, no report from the sanitizers, no failure escaping a handler's error trap.
+#include <QDir>
 #include <QElapsedTimer>
 #include <QImage>
 #include <QTemporaryDir>
@@ -179,6 +180,9 @@ class Monkey {
   Command setCommand(Runner& runner, Command& c) {
     c.op = Op::Set;
     c.name = anyOf(runner, [](Control* x) {
+      // The folder and drive lists would walk the monkey out of its own folder, and a save there
+      // would leave files about the disk; it stays where the run put it.
+      if (x->kind() == ControlKind::DirListBox || x->kind() == ControlKind::DriveListBox) return false;
       return dynamic_cast<ScrollBar*>(x) || dynamic_cast<CheckBox*>(x) || dynamic_cast<OptionButton*>(x) ||
              dynamic_cast<ListBox*>(x) || dynamic_cast<TextBox*>(x);
     });
@@ -213,6 +217,9 @@ int runMonkey(long long events, std::uint32_t seed) {
   QTextStream quiet(&nowhere);  // what the run prints is not the point; only that it survives
   QTemporaryDir dir;
   const QString picture = dir.path() + "/monkey.bmp";
+  // The program's folder lists start in the working folder, and whatever the monkey saves lands
+  // there: its own temporary folder, gone with the run.
+  QDir::setCurrent(dir.path());
   {
     QImage img(64, 48, QImage::Format_RGB32);
     for (int y = 0; y < img.height(); ++y)

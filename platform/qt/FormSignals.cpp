@@ -1,4 +1,5 @@
 // What the user does with Qt's own widgets and the menus, turned into the controls' events.
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
@@ -11,6 +12,7 @@
 
 #include "platform/Controls.h"
 #include "platform/qt/FormView.h"
+#include "platform/qt/Keys.h"
 
 namespace qp {
 
@@ -134,6 +136,22 @@ void FormView::connectSignals(Control* c, QWidget* w) {
       });
       connect(static_cast<QListWidget*>(w), &QListWidget::itemDoubleClicked, this, [this, l] {
         dispatch([l] { l->raiseDblClick(); });
+      });
+      // The list's own area takes the pointer; its press reaches the control once the entry under
+      // it is chosen, so a handler reads the entry pressed. Hovering an entry is a move.
+      auto* list = static_cast<QListWidget*>(w);
+      list->setMouseTracking(true);
+      connect(list, &QAbstractItemView::pressed, this, [this, l] {
+        int b = 0;
+        const Qt::MouseButtons held = QApplication::mouseButtons();
+        if (held & Qt::LeftButton) b |= vbLeftButton;
+        if (held & Qt::RightButton) b |= vbRightButton;
+        if (held & Qt::MiddleButton) b |= vbMiddleButton;
+        const int shift = shiftStateFor(QApplication::keyboardModifiers());
+        dispatch([l, b, shift] { l->raiseMouseDown(b, shift, 0, 0); });
+      });
+      connect(list, &QAbstractItemView::entered, this, [this, l] {
+        dispatch([l] { l->raiseMouseMove(0, 0, 0, 0); });
       });
       break;
     }
