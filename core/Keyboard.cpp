@@ -4,6 +4,7 @@
 #include "color/ColourEngine.h"
 #include "color/ColourPickers.h"
 #include "core/Edit.h"
+#include "core/Help.h"
 #include "core/Grid.h"
 #include "core/Startup.h"
 #include "core/Undo.h"
@@ -18,9 +19,7 @@ namespace {
 void runMenuHandler(Menu& item) {
   if (item.Click) item.Click();
 }
-// The Toolz menu popped up at the pointer (key Z) needs a pop-up menu from the window layer, and
-// the full-screen spirals (F9) their own window: these keys do nothing until those exist.
-void PopupToolzNotBuilt(Session&) {}
+// The full-screen spirals (F9) need their own window: the key does nothing until it exists.
 void OpenFullScreenNotBuilt(Session&) {}
 
 void showDrawWidth(frmCanvas& f, int width) { f.lPenVal.Caption = "Draw Width : " + QString::number(width); }
@@ -65,7 +64,7 @@ void textFreeKeys(Session& s, int code) {
     else UndoOnce(s);
   }
   if (code == vbKeyCapital) ToggleGrid(s);
-  if (code == vbKeyZ) PopupToolzNotBuilt(s);
+  if (code == vbKeyZ) PopupToolz(s);
   if (code == vbKeyC) SetGridColors(s);
   if (code == vbKeyK) runMenuHandler(f.mKeys);  // the list of keys
   if (code == vbKeySpace) {

@@ -78,4 +78,9 @@ void Form::setFocusTo(VisualControl* c) {
   if (c && focus_ == c && c->GotFocus) c->GotFocus();
 }
 
+void Form::PopupMenu(Menu& m) {
+  lastPopup_ = &m;
+  if (PopupHandler) PopupHandler(m);
+}
+
 }  // namespace qp

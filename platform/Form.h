@@ -9,6 +9,8 @@
 
 namespace qp {
 
+class Menu;
+
 class Form : public VisualControl {
  public:
   Form(Runtime& rt, QString name);
@@ -31,13 +33,13 @@ class Form : public VisualControl {
   void Show(bool modal = false);
   void Hide();
   bool loaded() const { return loaded_; }
-  bool isModal() const { return modal_; }
-
   // The window is closed for good: hidden, and the next Show loads it afresh (raises Load).
   void markUnloaded() {
     Hide();
     loaded_ = false;
   }
+  bool isModal() const { return modal_; }
+
   // Registry of the controls by name.
   void add(Control* c);
   void remove(Control* c);
@@ -48,6 +50,12 @@ class Form : public VisualControl {
   VisualControl* ActiveControl() const { return focus_; }
   void setFocusTo(VisualControl* c);
 
+  // Pops a menu up at the pointer (the runtime's PopupMenu). A view on screen shows it; without one
+  // the request is only remembered, for scripts and tests to see.
+  void PopupMenu(Menu& m);
+  std::function<void(Menu&)> PopupHandler;
+  Menu* lastPopup() const { return lastPopup_; }
+
   // Any property of any control of the form changed since the view last looked.
   std::uint64_t formRevision() const { return formRevision_; }
   void noteChange() { ++formRevision_; }
@@ -57,6 +65,7 @@ class Form : public VisualControl {
   QHash<QString, Control*> byKey_;
   std::vector<Control*> order_;
   VisualControl* focus_ = nullptr;
+  Menu* lastPopup_ = nullptr;
   bool loaded_ = false;
   bool modal_ = false;
   std::uint64_t formRevision_ = 1;

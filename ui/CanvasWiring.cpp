@@ -3,6 +3,7 @@
 #include "core/ApplyPaintMode.h"
 #include "core/CanvasSize.h"
 #include "core/Grid.h"
+#include "core/Help.h"
 #include "core/Edit.h"
 #include "core/Keyboard.h"
 #include "core/Layout.h"
@@ -12,8 +13,8 @@
 #include "core/Pipeline.h"
 #include "core/Startup.h"
 #include "core/Undo.h"
-#include "tools/AutoDraw.h"
 #include "files/OpenSave.h"
+#include "tools/AutoDraw.h"
 #include "ui/Program.h"
 
 namespace qp {
@@ -124,12 +125,13 @@ void wireCanvas(Session& s, const std::function<void()>& quit) {
   wireModeMenus(s);
   wireCanvasEvents(s, quit);
   wireCanvasSize(s);
+  wireHelp(s);
   wireColours(s);
   wirePanel(s);  // the panel's own meaning of its bars and boxes, then the tool's hooks
   wireEditCommands(s);
   wireKeyboard(s, quit);
   wireAutoDraw(s);
+  wireFiles(s);
 }
 
-  wireFiles(s);
 }  // namespace qp

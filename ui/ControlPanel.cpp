@@ -58,6 +58,8 @@ ControlPanel::ControlPanel(Form& f, Frame& strip)
       ckShaDraw(&f, &fShad, "ckShaDraw"),
       fX(&f, nullptr, "fX"),
       fHelp(&f, nullptr, "fHelp"),
+      txHelp(&f, &fHelp, "txHelp"),
+      cXhelp(&f, &fHelp, "cXhelp"),
       fCust(&f, nullptr, "fCust"),
       hCustm(&f, &fCust, "hCustm"),
       vCustm(&f, &fCust, "vCustm"),
@@ -197,6 +199,10 @@ ControlPanel::ControlPanel(Form& f, Frame& strip)
   fX.Visible = false;
   place(fHelp, 2400, 1020, 6000, 5000);
   fHelp.Visible = false;
+  place(txHelp, 120, 240, 5760, 4200);
+  txHelp.MultiLine = true;
+  place(cXhelp, 4680, 4500, 1200, 375);
+  cXhelp.Caption = "Close";
   place(fCust, 1920, 480, 4800, 1800);
   fCust.Visible = false;
   place(hCustm, 120, 300, 4500, 255);

@@ -56,7 +56,9 @@ struct ControlPanel {
   CheckBox ckShaDraw;
 
   Frame fX;              // Explorer panel
-  Frame fHelp;
+  Frame fHelp;           // the help panel
+  TextBox txHelp;
+  CommandButton cXhelp;
   Frame fCust;           // custom canvas size
   HScrollBar hCustm;
   VScrollBar vCustm;

@@ -5,6 +5,9 @@
 
 #include <QAbstractSlider>
 #include <QCheckBox>
+#include <QCursor>
+#include <QMenu>
+#include <QAction>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLineEdit>
@@ -70,6 +73,11 @@ FormView::FormView(Form& form) : form_(form), window_(std::make_unique<QMainWind
   central_->setFocusPolicy(Qt::ClickFocus);
   byWidget_[central_] = &form_;
   sync();
+  // A menu popped up by the program is the menu bar's own, shown at the pointer.
+  form_.PopupHandler = [this](Menu& m) {
+    sync();
+    if (QAction* a = actionFor(&m); a && a->menu()) a->menu()->popup(QCursor::pos());
+  };
   // Timers and long drawings change controls between input events; the poll shows that.
   poll_.setInterval(kPollMs);
   connect(&poll_, &QTimer::timeout, this, [this] { sync(); });
@@ -77,6 +85,7 @@ FormView::FormView(Form& form) : form_(form), window_(std::make_unique<QMainWind
 }
 
 FormView::~FormView() {
+  form_.PopupHandler = nullptr;
   poll_.stop();
   window_->removeEventFilter(this);
   for (auto& [c, e] : entries_)

@@ -1,0 +1,78 @@
+// Instant Help: the help line of each mode, the suggestions, the key list, the help panel, the
+// film lines in the tool tips, and the Toolz menu popping up.
+#include "core/Help.h"
+#include "support/ProgramFixture.h"
+
+namespace qp::test {
+
+using Help = ProgramTest;
+
+TEST_F(Help, TheHelpLineFollowsTheModeAndItsSwitches) {
+  choose(f().mPencil);
+  f().MouseMove(0, 0, 0, 0);
+  EXPECT_TRUE(f().lHelp.Caption.get().startsWith("Hold left mouse button to draw - Select colors below"));
+  EXPECT_EQ(f().lHelpb.Caption.get(), f().lHelp.Caption.get());  // the shadow follows
+  f().ckVal.Value = 1;  // AutoDraw
+  move(100, 100, 0);    // the pointer over the canvas asks for the help line too
+  EXPECT_TRUE(f().lHelp.Caption.get().startsWith("Click paint area to set starting point"));
+  choose(f().mSngBox);
+  f().vVal3.Value = 2;
+  f().MouseMove(0, 0, 0, 0);
+  EXPECT_TRUE(f().lHelp.Caption.get().startsWith("Hold left mouse button and drag to set size of circle"));
+  choose(f().mCrzyPen);
+  f().MouseMove(0, 0, 0, 0);
+  EXPECT_TRUE(f().lHelp.Caption.get().startsWith("riGhT-CLiCk tO uNdO"));
+  // A mode without a line of its own keeps the text it had.
+  choose(f().mFF);
+  f().lHelp.Caption = "kept";
+  f().MouseMove(0, 0, 0, 0);
+  EXPECT_EQ(f().lHelp.Caption.get(), "kept");
+}
+
+TEST_F(Help, TheHelpLinesToolTipSuggestsByMode) {
+  choose(f().mBallz);
+  f().lHelpb.MouseMove(0, 0, 0, 0);
+  EXPECT_TRUE(f().lHelp.Caption.get().startsWith("Instant Help... Read me for instructions"));
+  EXPECT_EQ(f().lHelpb.ToolTipText.get(),
+            "Set Limit to 160 and Step to 3 for a giant sphere (Limit AND Step together control overall diameter "
+            "of spheres)");
+  choose(f().mtCvShapes);  // of its five suggestions the last one stands
+  f().lHelpb.MouseMove(0, 0, 0, 0);
+  EXPECT_TRUE(f().lHelpb.ToolTipText.get().startsWith("Clicking the screen while holding ARROW keys"));
+}
+
+TEST_F(Help, KeyListAndHelpPanel) {
+  choose(f().mKeys);
+  ASSERT_FALSE(headless.msgbox.shown().empty());
+  const auto& box = headless.msgbox.shown().back();
+  EXPECT_EQ(box.title, "Keyboard Shortcuts");
+  EXPECT_TRUE(box.prompt.startsWith("Copy : SpaceBar\r\nPaste:  Insert Key\r\n"));
+  EXPECT_TRUE(box.prompt.endsWith("(If Text panels are visible\r\nshortcuts are disabled)"));
+  choose(f().mHelp);
+  EXPECT_TRUE(f().fHelp.Visible);
+  EXPECT_EQ(f().fHelp.Left.get(), f().fX.Left.get());
+  EXPECT_FALSE(f().txHelp.Text.get().isEmpty());
+  f().cXhelp.raiseClick();
+  EXPECT_FALSE(f().fHelp.Visible);
+}
+
+TEST_F(Help, AFilmLineStandsInOneModeOnlyAndGoesAtTheNextPass) {
+  choose(f().mBallz);
+  f().ckHide.MouseMove(0, 0, 0, 0);
+  EXPECT_EQ(f().ckHide.ToolTipText.get(), "Trolls...  NOT TROLLS...!  I HATE TROLLS!");
+  choose(f().mPencil);
+  EXPECT_FALSE(f().ckHide.ToolTipText.get().isEmpty());  // until the pointer passes again
+  f().ckHide.MouseMove(0, 0, 0, 0);
+  EXPECT_TRUE(f().ckHide.ToolTipText.get().isEmpty());
+  choose(f().mCrazyLn);
+  f().lPenVal.MouseMove(0, 0, 0, 0);  // a control with a tip of its own keeps it in parentheses
+  EXPECT_TRUE(f().lPenVal.ToolTipText.get().endsWith("(" + f().lPenVal.Caption.get() + ")"));
+}
+
+TEST_F(Help, RightClickOnThePanelPopsUpTheToolzMenu) {
+  EXPECT_EQ(f().lastPopup(), nullptr);
+  f().fVal.raiseMouseUp(vbRightButton, 0, 100, 100);
+  EXPECT_EQ(f().lastPopup(), &f().mToolz);
+}
+
+}  // namespace qp::test
