@@ -51,12 +51,12 @@ ColourBlock::ColourBlock(Form& f)
   strip(pG, 5280, 0x00FF00);
   strip(pB, 5460, 0xFF0000);
 
-  place(fBow, 5640, 0, 1400, 870);
+  place(fBow, 5640, 0, 2000, 870);
   fBow.BackColor = 0x404040;
   fBow.BorderStyle = 0;
   auto row = [](VScrollBar& bar, Label& label, Single top) {
     place(bar, 0, top, 255, 270);
-    place(label, 285, top + 30, 1100, 225);
+    place(label, 285, top + 30, 1700, 225);
     label.BackStyle = 0;
     label.ForeColor = 0xFFFFFF;
   };
@@ -69,7 +69,7 @@ ColourBlock::ColourBlock(Form& f)
   row(vColors, lColorVal, 570);
   setBar(vColors, 6, 0, 0);
   lColorVal.Caption = "Color Option";
-  place(ckDcolz, 300, 285, 1100, 210);
+  place(ckDcolz, 300, 285, 1700, 210);
   ckDcolz.Caption = "Transient";
   ckDcolz.Visible = false;
   for (VScrollBar* b : {&vRed, &vGrn, &vBlu}) {
@@ -77,7 +77,7 @@ ColourBlock::ColourBlock(Form& f)
     b->Visible = false;
   }
   vBlu.Value = 255;
-  place(fColCov, 5640, 0, 1400, 870);
+  place(fColCov, 5640, 0, 2000, 870);
   fColCov.BackColor = 0x404040;
   fColCov.Visible = false;
 }

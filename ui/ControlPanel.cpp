@@ -120,52 +120,52 @@ ControlPanel::ControlPanel(Form& f, Frame& strip)
     c->ForeColor = 0xFFFFFF;
     c->Visible = false;
   }
-  place(ckVert, 11400, 60, 640, 210);
+  place(ckVert, 12120, 60, 640, 210);
   ckVert.Caption = "Vert";
-  place(Shadow(8), 11370, 45, 680, 240);
-  place(ckHoriz, 12075, 60, 640, 210);
+  place(Shadow(8), 12090, 45, 680, 240);
+  place(ckHoriz, 12795, 60, 640, 210);
   ckHoriz.Caption = "Horiz";
-  place(Shadow(9), 12045, 45, 680, 240);
+  place(Shadow(9), 12765, 45, 680, 240);
   for (int i = 0; i <= 1; ++i) {
     OptionButton& o = opVert.add(i, &f, &strip, QString("opVert"));
-    place(o, 11400 + i * 675, 330, 640, 210);
+    place(o, 12120 + i * 675, 330, 640, 210);
     o.Caption = i == 0 ? "Vertical" : "Horizontal";
     o.BackColor = kPanelBack;
     o.ForeColor = 0xFFFFFF;
     o.Visible = false;
   }
-  place(cCan, 11400, 600, 1300, 285);
+  place(cCan, 12120, 600, 1300, 285);
   cCan.Caption = "Draw";
   cCan.Visible = false;
-  place(Shadow(20), 11370, 585, 1365, 315);
-  place(cSwap, 9960, 600, 1300, 255);
+  place(Shadow(20), 12090, 585, 1365, 315);
+  place(cSwap, 10960, 600, 1100, 255);
   cSwap.Caption = "Swap Colors";
   cSwap.Visible = false;
-  place(Shadow(14), 9930, 585, 1365, 285);
+  place(Shadow(14), 10930, 585, 1160, 285);
 
-  place(fPencil, 7080, 30, 1440, 420);
+  place(fPencil, 7700, 30, 1800, 420);
   fPencil.BackColor = kPanelBack;
   place(vPencil, 0, 0, 255, 405);
   setBar(vPencil, 160, 1, 1, 1, 10);
-  place(lPenVal, 285, 105, 1065, 225);
+  place(lPenVal, 285, 105, 1500, 225);
   lPenVal.Caption = "Draw Width : 1";
   lPenVal.BackStyle = 0;
   lPenVal.ForeColor = 0xFFFFFF;
-  place(vMax, 8580, 45, 255, 345);
+  place(vMax, 9560, 45, 255, 345);
   setBar(vMax, 160, 24, 24, 2, 2);
-  place(Shadow(35), 8550, 30, 315, 375);
-  place(vMin, 8895, 45, 255, 345);
+  place(Shadow(35), 9530, 30, 315, 375);
+  place(vMin, 9875, 45, 255, 345);
   setBar(vMin, 36, 1, 4, 1, 1);
-  place(Shadow(32), 8865, 30, 315, 375);
-  place(ckHold, 9240, 120, 690, 210);
+  place(Shadow(32), 9845, 30, 315, 375);
+  place(ckHold, 10220, 120, 690, 210);
   ckHold.Caption = "Hold";
   ckHold.Visible = true;
-  place(ckHide, 9960, 120, 1300, 210);
+  place(ckHide, 10960, 120, 1100, 210);
   ckHide.Caption = "Hide Pointer";
   ckHide.Visible = true;
-  place(Shadow(38), 9930, 105, 1365, 240);
+  place(Shadow(38), 10930, 105, 1160, 240);
 
-  place(fInt, 7080, 480, 1440, 390);
+  place(fInt, 7700, 480, 1800, 390);
   fInt.BackColor = kPanelBack;
   fInt.Visible = false;
   place(vInt, 0, 0, 255, 375);
@@ -173,7 +173,7 @@ ControlPanel::ControlPanel(Form& f, Frame& strip)
   // reaches vInt_Change and puts the paint timers on the shared interval.
   setBar(vInt, 500, 1, 100, 1, 10);
 
-  place(shErSize, 8580, 480, 120, 120);
+  place(shErSize, 9560, 480, 120, 120);
   shErSize.Shape_ = 0;
   shErSize.FillStyle = 0;
   shErSize.Visible = false;
