@@ -8,20 +8,11 @@
 namespace qp::test {
 namespace {
 
-class KeyboardTest : public ProgramTest {
+class KeyboardTest : public PencilTest {
  protected:
-  void SetUp() override {
-    ProgramTest::SetUp();
-    choose(f().mPencil);
-    f().vColmode.Value = 0;
-  }
   void key(int code) {
     windowKeyDown(f(), code);
     windowKeyUp(f(), code);
-  }
-  void drawDot(Single x, Single y) {
-    press(x, y);
-    release(x, y);
   }
 };
 

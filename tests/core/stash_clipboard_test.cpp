@@ -6,21 +6,10 @@
 namespace qp::test {
 namespace {
 
-constexpr Colour kBlack = 0x000000;
-constexpr Colour kWhite = 0xFFFFFF;
 constexpr Colour kRed = 0x0000FF;
 
-class EditTest : public ProgramTest {
+class EditTest : public PencilTest {
  protected:
-  void SetUp() override {
-    ProgramTest::SetUp();
-    choose(f().mPencil);
-    f().vColmode.Value = 0;
-  }
-  void drawDot(Single x, Single y) {
-    press(x, y);
-    release(x, y);
-  }
   // A red picture of w x h pixels on the clipboard.
   void clipboardHoldsRed(int w, int h) {
     QImage red(w, h, QImage::Format_RGB32);

@@ -8,20 +8,9 @@
 namespace qp::test {
 namespace {
 
-constexpr Colour kBlack = 0x000000;
-constexpr Colour kWhite = 0xFFFFFF;
 
-class UndoTest : public ProgramTest {
+class UndoTest : public PencilTest {
  protected:
-  void SetUp() override {
-    ProgramTest::SetUp();
-    choose(f().mPencil);
-    f().vColmode.Value = 0;
-  }
-  void drawDot(Single x, Single y) {
-    press(x, y);
-    release(x, y);
-  }
   void key(int code) {
     windowKeyDown(f(), code);
     windowKeyUp(f(), code);

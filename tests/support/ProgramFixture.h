@@ -31,4 +31,21 @@ class ProgramTest : public ::testing::Test {
   std::unique_ptr<Program> program;
 };
 
+constexpr Colour kBlack = 0x000000;
+constexpr Colour kWhite = 0xFFFFFF;
+
+// The pencil in Standard colour mode: every stroke in the fore colour, white.
+class PencilTest : public ProgramTest {
+ protected:
+  void SetUp() override {
+    ProgramTest::SetUp();
+    choose(f().mPencil);
+    f().vColmode.Value = 0;
+  }
+  void drawDot(Single x, Single y) {
+    press(x, y);
+    release(x, y);
+  }
+};
+
 }  // namespace qp::test

@@ -5,19 +5,8 @@
 namespace qp::test {
 namespace {
 
-constexpr Colour kBlack = 0x000000;
-constexpr Colour kWhite = 0xFFFFFF;  // the fore colour at start
 constexpr Colour kGray = 0x808080;   // the back colour at start
 constexpr Colour kBlue = 0xFF0000;   // the third colour at start
-
-class PencilTest : public ProgramTest {
- protected:
-  void SetUp() override {
-    ProgramTest::SetUp();
-    choose(f().mPencil);
-    f().vColmode.Value = 0;  // Standard: every step draws in the swatch's fore colour
-  }
-};
 
 TEST_F(PencilTest, PressWithoutMovementLeavesADotOfTheDrawWidth) {
   m().DrawWidth = 5;
