@@ -1,0 +1,132 @@
+// Opening and saving a 4096 x 4096 bitmap through the program (a drop on the canvas, the Explorer
+// panel, File > Save and OK) beside Qt's bare QImage load and save of the same file. The program's
+// path may add at most about one canvas copy to what Qt itself does.
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QTemporaryDir>
+#include <cstdio>
+#include <map>
+#include <memory>
+#include <string>
+
+#include "platform/Headless.h"
+#include "ui/Program.h"
+
+namespace {
+
+constexpr int kSide = 4096;
+
+QTemporaryDir& folder() {
+  static QTemporaryDir dir;
+  return dir;
+}
+QString source() { return folder().filePath("source.bmp"); }
+
+void makeSource() {
+  QImage img(kSide, kSide, QImage::Format_RGB32);
+  for (int y = 0; y < kSide; ++y) {
+    auto* line = reinterpret_cast<QRgb*>(img.scanLine(y));
+    for (int x = 0; x < kSide; ++x) line[x] = qRgb(x & 255, y & 255, (x ^ y) & 255);
+  }
+  img.save(source(), "BMP");
+}
+
+struct Session {
+  qp::HeadlessRuntime headless;
+  std::unique_ptr<qp::Program> program;
+  Session() {
+    program = std::make_unique<qp::Program>(headless.rt());
+    program->start();
+    program->f.mPencil.raiseClick();
+  }
+};
+
+void BM_QtLoad(benchmark::State& state) {
+  for (auto _ : state) {
+    QImage img(source());
+    benchmark::DoNotOptimize(img.constBits());
+  }
+}
+BENCHMARK(BM_QtLoad)->Unit(benchmark::kMillisecond);
+
+void BM_DropOnCanvas(benchmark::State& state) {
+  Session s;
+  for (auto _ : state) s.program->f.PicPaint.OLEDragDrop({source()}, qp::vbLeftButton, 0, 0, 0);
+  if (s.program->f.PicPaint.pixelWidth() != kSide) state.SkipWithError("the picture did not load");
+}
+BENCHMARK(BM_DropOnCanvas)->Unit(benchmark::kMillisecond);
+
+void BM_OpenThroughExplorer(benchmark::State& state) {
+  Session s;
+  qp::frmCanvas& f = s.program->f;
+  for (auto _ : state) {
+    f.mnuOpen.raiseClick();
+    f.Dir1.Path = folder().path();
+    f.File1.ListIndex = static_cast<int>(f.File1.items().indexOf("source.bmp"));
+    f.File1.raiseMouseDown(qp::vbLeftButton, 0, 0, 0);
+    f.cPic.raiseClick();
+  }
+  if (f.PicPaint.pixelWidth() != kSide) state.SkipWithError("the picture did not load");
+}
+BENCHMARK(BM_OpenThroughExplorer)->Unit(benchmark::kMillisecond);
+
+void BM_QtSave(benchmark::State& state) {
+  const QImage img(source());
+  for (auto _ : state) img.save(folder().filePath("qt.bmp"), "BMP");
+}
+BENCHMARK(BM_QtSave)->Unit(benchmark::kMillisecond);
+
+void BM_SaveFromMenu(benchmark::State& state) {
+  Session s;
+  qp::frmCanvas& f = s.program->f;
+  f.PicPaint.OLEDragDrop({source()}, qp::vbLeftButton, 0, 0, 0);
+  qp::frmFile& d = s.program->w.file;
+  for (auto _ : state) {
+    f.mnuSave.raiseClick();
+    d.Dir1.Path = folder().path();
+    d.TxtFile.Text = "program";
+    d.cmdOK.raiseClick();
+  }
+  if (d.Visible) state.SkipWithError("the save did not finish");
+}
+BENCHMARK(BM_SaveFromMenu)->Unit(benchmark::kMillisecond);
+
+// One canvas copy, for scale: what "one extra copy" costs.
+void BM_RefCanvasCopy(benchmark::State& state) {
+  const QImage img(source());
+  for (auto _ : state) {
+    QImage copy = img.copy();
+    benchmark::DoNotOptimize(copy.constBits());
+  }
+}
+BENCHMARK(BM_RefCanvasCopy)->Unit(benchmark::kMillisecond);
+
+class Collector : public benchmark::ConsoleReporter {
+ public:
+  void ReportRuns(const std::vector<Run>& runs) override {
+    for (const Run& r : runs) ms[r.benchmark_name()] = r.GetAdjustedRealTime();
+    ConsoleReporter::ReportRuns(runs);
+  }
+  std::map<std::string, double> ms;
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication app(argc, argv);
+  makeSource();
+  benchmark::Initialize(&argc, argv);
+  Collector c;
+  benchmark::RunSpecifiedBenchmarks(&c);
+  const double copy = c.ms["BM_RefCanvasCopy"];
+  std::printf("\n%-24s %10s %10s %12s\n", "program path", "ms", "Qt ms", "extra copies");
+  for (const auto& [op, ref] : {std::pair{"BM_DropOnCanvas", "BM_QtLoad"}, std::pair{"BM_OpenThroughExplorer", "BM_QtLoad"},
+                                std::pair{"BM_SaveFromMenu", "BM_QtSave"}}) {
+    const double a = c.ms[op], b = c.ms[ref];
+    std::printf("%-24s %10.1f %10.1f %12.2f\n", op, a, b, copy > 0 ? (a - b) / copy : 0.0);
+  }
+  benchmark::Shutdown();
+  return 0;
+}
