@@ -27,7 +27,12 @@ void mGet_Click(Session& s) {
   trap([&] {
     StopAllTools(s);
     TakeUndoSnapshot(s);
-    f.PicPaint.Picture = f.pStash.Picture;
+    // Unlike an opened picture, the stash comes back at the canvas's own size, so the canvas does
+    // not follow the picture here.
+    f.PicPaint.AutoSize = false;
+    const bool placed = trap([&] { f.PicPaint.Picture = f.pStash.Picture; });
+    f.PicPaint.AutoSize = true;
+    if (!placed) raiseError(RuntimeError::OutOfMemory, "Out of memory");
   });
 }
 
