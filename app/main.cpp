@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <cstring>
 
+#include "platform/Memory.h"
 #include "platform/qt/FormView.h"
 #include "platform/qt/QtRuntime.h"
 #include "script/CommandLine.h"
@@ -70,6 +71,7 @@ bool parse(int argc, char** argv, Options& o) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  qp::keepPictureMemoryForReuse();
   Options o;
   if (!parse(argc, argv, o)) return usage();
   const bool headless = o.mode == Options::Demo || o.mode == Options::Monkey || (o.mode == Options::Script && !o.show);

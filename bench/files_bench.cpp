@@ -10,6 +10,7 @@
 #include <memory>
 #include <string>
 
+#include "platform/Memory.h"
 #include "platform/Headless.h"
 #include "ui/Program.h"
 
@@ -114,6 +115,7 @@ class Collector : public benchmark::ConsoleReporter {
 }  // namespace
 
 int main(int argc, char** argv) {
+  qp::keepPictureMemoryForReuse();
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication app(argc, argv);
   makeSource();

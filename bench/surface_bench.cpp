@@ -13,6 +13,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/Memory.h"
 #include "platform/Form.h"
 #include "platform/Headless.h"
 #include "surface/Device.h"
@@ -262,6 +263,7 @@ void summary(const Collector& c) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  qp::keepPictureMemoryForReuse();
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QGuiApplication app(argc, argv);
   benchmark::Initialize(&argc, argv);

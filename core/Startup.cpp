@@ -40,6 +40,7 @@ void Form_Load(Session& s) {
       f.lstShad.AddItem(fonts[i]);
     }
     f.CanvasLocked = 0;
+    f.File1.Pattern = "*.bmp";
     m.DrawWidth = f.vPencil.Value.get();
     ApplyColors(s);
     f.Text1.SelStart = 0;
