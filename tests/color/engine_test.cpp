@@ -73,7 +73,9 @@ TEST_F(ColourEngineTest, GlowStaysInItsHueFamilyAndLeavesOthersUntilAStepSucceed
   // At 250 a step up of 10 is refused and writes nothing; the first step down clears green, blue.
   for (int i = 0; i < 100 && m().ClrRed == 250; ++i) {
     StepGlowColor(s(), 10);
-    if (m().ClrRed == 250) EXPECT_EQ(running(), (Rgb{250, 100, 70}));
+    if (m().ClrRed == 250) {
+      EXPECT_EQ(running(), (Rgb{250, 100, 70}));
+    }
   }
   ASSERT_EQ(running(), (Rgb{240, 0, 0}));
   for (int i = 0; i < 200; ++i) {

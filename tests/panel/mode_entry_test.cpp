@@ -25,10 +25,14 @@ TEST_F(ModeEntry, CheckBoxesShowWithTheirStartValues) {
     choose(item(f(), e.menu));
     EXPECT_EQ(f().ckVal.Visible.get(), e.ckVal >= 0);
     EXPECT_EQ(f().Shadow(24).Visible.get(), e.ckVal >= 0);
-    if (e.ckVal >= 0) EXPECT_EQ(f().ckVal.Value.get(), e.ckVal);
+    if (e.ckVal >= 0) {
+      EXPECT_EQ(f().ckVal.Value.get(), e.ckVal);
+    }
     EXPECT_EQ(f().ckVal2.Visible.get(), e.ckVal2 >= 0);
     EXPECT_EQ(f().Shadow(34).Visible.get(), e.ckVal2 >= 0);
-    if (e.ckVal2 >= 0) EXPECT_EQ(f().ckVal2.Value.get(), e.ckVal2);
+    if (e.ckVal2 >= 0) {
+      EXPECT_EQ(f().ckVal2.Value.get(), e.ckVal2);
+    }
   }
 }
 
