@@ -53,6 +53,8 @@ BENCHMARK(BM_QtLoad)->Unit(benchmark::kMillisecond);
 
 void BM_DropOnCanvas(benchmark::State& state) {
   Session s;
+  // The first picture of this size grows the canvas and its undo holder once: not the load's work.
+  s.program->f.PicPaint.OLEDragDrop({source()}, qp::vbLeftButton, 0, 0, 0);
   for (auto _ : state) s.program->f.PicPaint.OLEDragDrop({source()}, qp::vbLeftButton, 0, 0, 0);
   if (s.program->f.PicPaint.pixelWidth() != kSide) state.SkipWithError("the picture did not load");
 }
@@ -62,12 +64,14 @@ void BM_OpenThroughExplorer(benchmark::State& state) {
   Session s;
   qp::frmCanvas& f = s.program->f;
   f.Dir1.Path = folder().path();  // the panel keeps its folder: listing it is not the open's work
-  for (auto _ : state) {
+  auto open = [&f] {
     f.mnuOpen.raiseClick();
     f.File1.ListIndex = static_cast<int>(f.File1.items().indexOf("source.bmp"));
     f.File1.raiseMouseDown(qp::vbLeftButton, 0, 0, 0);
     f.cPic.raiseClick();
-  }
+  };
+  open();  // the first picture of this size grows the canvas and its undo holder once
+  for (auto _ : state) open();
   if (f.PicPaint.pixelWidth() != kSide) state.SkipWithError("the picture did not load");
 }
 BENCHMARK(BM_OpenThroughExplorer)->Unit(benchmark::kMillisecond);
