@@ -5,14 +5,22 @@
 
 namespace qp::test {
 
+ToolHooks strokeHooks(StrokeHook press, StrokeHook move, StrokeHook release) {
+  ToolHooks h;
+  h.press = std::move(press);
+  h.move = std::move(move);
+  h.release = std::move(release);
+  return h;
+}
+
 class Pipeline : public ProgramTest {
  protected:
   void SetUp() override {
     ProgramTest::SetUp();
     choose(f().mSingle);  // a mode whose hooks we watch below
-    program->tools.set(1, {[this](Session&, int, Single x, Single y) { calls.push_back({'P', x, y}); },
+    program->tools.set(1, strokeHooks([this](Session&, int, Single x, Single y) { calls.push_back({'P', x, y}); },
                            [this](Session&, int, Single x, Single y) { calls.push_back({'M', x, y}); },
-                           [this](Session&, int, Single x, Single y) { calls.push_back({'R', x, y}); }});
+                           [this](Session&, int, Single x, Single y) { calls.push_back({'R', x, y}); }));
   }
   struct Call { char what; Single x, y; };
   std::vector<Call> calls;
@@ -78,14 +86,14 @@ TEST_F(Pipeline, ReleaseRunsTheToolThenTheClosingSteps) {
 }
 
 TEST_F(Pipeline, AFailingReleaseStillClosesTheStroke) {
-  program->tools.set(1, {{}, {}, [](Session&, int, Single, Single) { raiseError(RuntimeError::Overflow); }});
+  program->tools.set(1, strokeHooks({}, {}, [](Session&, int, Single, Single) { raiseError(RuntimeError::Overflow); }));
   f().tGrad.Enabled = true;
   release(150, 150);
   EXPECT_FALSE(f().tGrad.Enabled);
 }
 
 TEST_F(Pipeline, AFailingPressEndsOnlyThatPress) {
-  program->tools.set(1, {[](Session&, int, Single, Single) { raiseError(RuntimeError::Overflow); }, {}, {}});
+  program->tools.set(1, strokeHooks([](Session&, int, Single, Single) { raiseError(RuntimeError::Overflow); }, {}, {}));
   press(150, 150);
   EXPECT_EQ(f().DownButtonX, 10);  // the common steps before the tool ran
   press(300, 300);
@@ -169,7 +177,7 @@ TEST_F(Pipeline, HiddenPointerComesBackAtAnyRelease) {
 TEST_F(Pipeline, ReleaseAfterAModeChangeRunsTheNewModesRelease) {
   press(150, 150);
   std::vector<char> other;
-  program->tools.set(3, {{}, {}, [&](Session&, int, Single, Single) { other.push_back('R'); }});
+  program->tools.set(3, strokeHooks({}, {}, [&](Session&, int, Single, Single) { other.push_back('R'); }));
   m().PaintMode = 3;
   release(150, 150);
   EXPECT_EQ(other.size(), 1u);
