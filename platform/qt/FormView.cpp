@@ -280,8 +280,11 @@ void FormView::apply(Entry& e) {
   if (e.kind == ControlKind::Frame || e.kind == ControlKind::CheckBox || e.kind == ControlKind::OptionButton) {
     // Panels and their boxes show the form's colours, as designed, not the desktop theme's.
     QPalette pal = w->palette();
+    // Buttons fill with the Button role, frames with Window: give both the control's colours.
     pal.setColor(QPalette::Window, toQColor(v->BackColor));
+    pal.setColor(QPalette::Button, toQColor(v->BackColor));
     pal.setColor(QPalette::WindowText, toQColor(v->ForeColor));
+    pal.setColor(QPalette::ButtonText, toQColor(v->ForeColor));
     if (pal != w->palette()) w->setPalette(pal);
     w->setAutoFillBackground(true);
   }
