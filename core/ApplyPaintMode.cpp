@@ -1,5 +1,6 @@
 #include "core/ApplyPaintMode.h"
 
+#include "core/Grid.h"
 #include "core/Panel.h"
 #include "core/Undo.h"
 #include "ui/frmCanvas.h"
@@ -49,8 +50,7 @@ void resetPanel(Session& s) {
   // The Explorer panel's jokes belong to one mode each.
   f.cPatt.ToolTipText = s.m.PaintMode == 14 ? kFilterJoke : "";
   f.Dir1.ToolTipText = s.m.PaintMode == 0 ? kFolderJoke : "";
-  for (Line* l : {&f.lnX, &f.lnY, &f.lnPX, &f.lnPY}) l->Visible = false;
-  for (Label* l : {&f.lLnX, &f.lLnY, &f.lLnPX, &f.lLnPY}) l->Visible = false;
+  HideGuides(s);
   f.cCan.Visible = false;
   f.Shadow(20).Visible = false;
   f.opVert(0).Visible = false;

@@ -19,6 +19,12 @@ void ToggleGrid(Session& s) {
   ly.Visible = show;
 }
 
+void HideGuides(Session& s) {
+  frmCanvas& f = s.f;
+  for (Line* l : {&f.lnX, &f.lnY, &f.lnPX, &f.lnPY}) l->Visible = false;
+  for (Label* l : {&f.lLnX, &f.lLnY, &f.lLnPX, &f.lLnPY}) l->Visible = false;
+}
+
 void SetGridColors(Session& s) {
   frmCanvas& f = s.f;
   f.lnX.BorderColor = s.m.ForeClr.value();

@@ -5,6 +5,8 @@
 namespace qp {
 
 void ToggleGrid(Session& s);
+// Puts away both sets of guides, with their labels.
+void HideGuides(Session& s);
 void SetGridColors(Session& s);
 void SetPointerShape(Session& s, int shape);  // 2 cross, 1 arrow
 

@@ -1,5 +1,6 @@
 #include "core/Panel.h"
 
+#include "core/Grid.h"
 #include "ui/frmCanvas.h"
 
 namespace qp {
@@ -85,8 +86,7 @@ void StopAllTools(Session& s) {
   f.lTell.Caption = "";
   f.PicPaint.ScaleWidth = f.PicPaint.Width;
   f.PicPaint.ScaleHeight = f.PicPaint.Height;
-  for (Line* l : {&f.lnPX, &f.lnPY, &f.lnX, &f.lnY}) l->Visible = false;
-  for (Label* l : {&f.lLnPX, &f.lLnPY, &f.lLnX, &f.lLnY}) l->Visible = false;
+  HideGuides(s);
 }
 
 bool rowIsLive(Session& s, int n) { return s.f.Shadow(n).BorderColor != kDimFrame; }

@@ -1,6 +1,7 @@
 #include "core/Pipeline.h"
 
 #include "color/ColourEngine.h"
+#include "core/Grid.h"
 #include "core/Help.h"
 #include "core/ToolTable.h"
 #include "core/Undo.h"
@@ -9,11 +10,6 @@
 namespace qp {
 
 namespace {
-
-void hideGuides(frmCanvas& f) {
-  for (Line* l : {&f.lnX, &f.lnY, &f.lnPX, &f.lnPY}) l->Visible = false;
-  for (Label* l : {&f.lLnX, &f.lLnY, &f.lLnPX, &f.lLnPY}) l->Visible = false;
-}
 
 QString pixels(double twips) { return QString::number(static_cast<int>(CInt(twips / 15))); }
 
@@ -35,7 +31,7 @@ void closeStroke(Session& s, Single X, Single Y) {
   trap([&] { f.PicPaint.ScaleWidth = f.PicPaint.Width; });
   trap([&] { f.PicPaint.ScaleHeight = f.PicPaint.Height; });
   trap([&] { f.PicPaint.DrawWidth = s.m.DrawWidth; });
-  trap([&] { hideGuides(f); });
+  trap([&] { HideGuides(s); });
   // AutoDraw goes on from where the mouse left the canvas, or from its last place when that
   // position is out of reach.
   trap([&] { f.AutoDrawX = CInt(X); });
@@ -70,7 +66,7 @@ void PicPaint_MouseDown(Session& s, int Button, int Shift, Single X, Single Y) {
     f.lYb.ToolTipText = "Mouse Down Y : " + pixels(Y);
     f.DownButtonX = CInt(X / 15);
     f.DownButtonY = CInt(Y / 15);
-    hideGuides(f);
+    HideGuides(s);
     setPointer(f, X, Y);
     if (const auto& press = s.tools.at(s.m.PaintMode).press) press(s, Button, X, Y);
   });
