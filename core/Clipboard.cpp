@@ -19,11 +19,7 @@ void mCopy_Click(Session& s) {
   trap([&] {
     Clipboard& clipboard = s.rt.clipboard;
     clipboard.Clear();
-    if (f.pPix.Visible) {
-      f.pPix.Picture = f.pPix.Image;
-      f.PicPaint.Picture = f.pPix.Picture;
-    }
-    f.PicPaint.Picture = f.PicPaint.Image;
+    FlattenCanvas(s);
     clipboard.SetData(f.PicPaint.Picture);  // the canvas keeps its picture too
   });
 }

@@ -11,11 +11,7 @@ void mSendStash_Click(Session& s) {
   frmCanvas& f = s.f;
   trap([&] {
     StopAllTools(s);
-    if (f.pPix.Visible) {  // the true canvas is on the pixel twin
-      f.pPix.Picture = f.pPix.Image;
-      f.PicPaint.Picture = f.pPix.Picture;
-    }
-    f.PicPaint.Picture = f.PicPaint.Image;
+    FlattenCanvas(s);
     f.pStash.Picture = f.PicPaint.Picture;
     f.mGet.Enabled = true;
   });

@@ -19,6 +19,15 @@ void TakeUndoSnapshot(Session& s) {
   }
 }
 
+void FlattenCanvas(Session& s) {
+  frmCanvas& f = s.f;
+  if (f.pPix.Visible) {
+    f.pPix.Picture = f.pPix.Image;
+    f.PicPaint.Picture = f.pPix.Picture;
+  }
+  f.PicPaint.Picture = f.PicPaint.Image;
+}
+
 void UndoOnce(Session& s) {
   frmCanvas& f = s.f;
   f.PicPaint.Picture = f.PicUndo.Image;
