@@ -24,6 +24,18 @@ enum class ControlKind {
 enum MouseButton { vbLeftButton = 1, vbRightButton = 2, vbMiddleButton = 4 };
 enum ShiftState { vbShiftMask = 1, vbCtrlMask = 2, vbAltMask = 4 };
 
+// Controls that the window draws itself (pictures, labels, frames, images, the form) raise Click
+// and DblClick from the pointer's press and release; buttons, bars and lists report their own.
+inline bool drawnByWindow(ControlKind k) {
+  switch (k) {
+    case ControlKind::Form: case ControlKind::PictureBox: case ControlKind::Label: case ControlKind::Frame:
+    case ControlKind::Image:
+      return true;
+    default:
+      return false;
+  }
+}
+
 class Control {
  public:
   // parent may be null for a control that sits directly on its form.

@@ -16,18 +16,6 @@ namespace {
 
 constexpr double kTwipsPerPixel = 15.0;
 
-// Controls that the window draws itself take the whole click; for the others (buttons, bars,
-// lists) the toolkit's widget reports the click on its own.
-bool drawnByWindow(ControlKind k) {
-  switch (k) {
-    case ControlKind::Form: case ControlKind::PictureBox: case ControlKind::Label: case ControlKind::Frame:
-    case ControlKind::Image:
-      return true;
-    default:
-      return false;
-  }
-}
-
 // A press on these gives them the keyboard focus, as the window's widgets take it on a click.
 bool takesFocusOnPress(ControlKind k) {
   switch (k) {

@@ -25,17 +25,8 @@ int buttonsFor(Qt::MouseButtons b) {
   return r;
 }
 
-// Controls that Qt's widgets serve (buttons, bars, lists) handle their own clicks; the ones we
-// draw ourselves take the whole pointer event, so that it does not go on to their container.
-bool drawnByUs(ControlKind k) {
-  switch (k) {
-    case ControlKind::Form: case ControlKind::PictureBox: case ControlKind::Label: case ControlKind::Frame:
-    case ControlKind::Image:
-      return true;
-    default:
-      return false;
-  }
-}
+// The controls drawn by the window take the whole pointer event, so that it does not go on to
+// their container; Qt's own widgets handle theirs.
 
 // A point of the widget in the control's unit: its scale for a picture box, else twips.
 QPointF toUnits(VisualControl& c, QWidget* w, QPointF pos) {
@@ -97,15 +88,15 @@ bool FormView::mouseEvent(VisualControl& c, QWidget* w, QEvent* e) {
       const bool inside = w->rect().contains(me->position().toPoint());
       // MouseUp may hide or move the control; whether it was a click is decided before that.
       dispatch([&] { c.raiseMouseUp(b, shift, x, y); });
-      if (inside && drawnByUs(c.kind()) && b == vbLeftButton) dispatch([&] { c.raiseClick(); });
+      if (inside && drawnByWindow(c.kind()) && b == vbLeftButton) dispatch([&] { c.raiseClick(); });
       break;
     }
     case QEvent::MouseButtonDblClick:
-      if (drawnByUs(c.kind())) dispatch([&] { c.raiseDblClick(); });
+      if (drawnByWindow(c.kind())) dispatch([&] { c.raiseDblClick(); });
       break;
     default: break;
   }
-  return drawnByUs(c.kind());
+  return drawnByWindow(c.kind());
 }
 
 bool FormView::keyEvent(QObject* watched, QEvent* e) {
@@ -124,7 +115,7 @@ bool FormView::keyEvent(QObject* watched, QEvent* e) {
       if (preview && form_.KeyUp) form_.KeyUp(code, shift);
       if (code != 0 && target->KeyUp) target->KeyUp(code, shift);
     });
-    return drawnByUs(target->kind());
+    return drawnByWindow(target->kind());
   }
   if (code != 0) {
     dispatch([&] {
@@ -141,7 +132,7 @@ bool FormView::keyEvent(QObject* watched, QEvent* e) {
     });
   }
   // A handler that clears the character keeps it from the widget, as the runtime does.
-  return drawnByUs(target->kind()) || (typed != 0 && ascii == 0);
+  return drawnByWindow(target->kind()) || (typed != 0 && ascii == 0);
 }
 
 bool FormView::dropEvent(VisualControl& c, QWidget* w, QEvent* e) {
