@@ -25,9 +25,6 @@ int buttonsFor(Qt::MouseButtons b) {
   return r;
 }
 
-// The controls drawn by the window take the whole pointer event, so that it does not go on to
-// their container; Qt's own widgets handle theirs.
-
 // A point of the widget in the control's unit: its scale for a picture box, else twips.
 QPointF toUnits(VisualControl& c, QWidget* w, QPointF pos) {
   if (c.kind() == ControlKind::PictureBox) return static_cast<PictureWidget*>(w)->toScale(pos);
@@ -96,6 +93,7 @@ bool FormView::mouseEvent(VisualControl& c, QWidget* w, QEvent* e) {
       break;
     default: break;
   }
+  // A control drawn by the window takes the whole event, so it does not go on to its container.
   return drawnByWindow(c.kind());
 }
 
