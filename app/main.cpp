@@ -15,7 +15,7 @@
 #include "platform/qt/FormView.h"
 #include "platform/qt/QtRuntime.h"
 #include "script/CommandLine.h"
-#include "ui/Program.h"
+#include "app/Program.h"
 
 namespace {
 

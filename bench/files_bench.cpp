@@ -12,7 +12,7 @@
 
 #include "platform/Memory.h"
 #include "platform/Headless.h"
-#include "ui/Program.h"
+#include "app/Program.h"
 
 namespace {
 

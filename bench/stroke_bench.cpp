@@ -11,7 +11,7 @@
 #include "core/Undo.h"
 #include "platform/Headless.h"
 #include "platform/Memory.h"
-#include "ui/Program.h"
+#include "app/Program.h"
 
 namespace {
 

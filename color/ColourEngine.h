@@ -24,7 +24,4 @@ QString ColourOptionName(int option);
 // Writes the name of the present ColorOption to lStats and to the tool tip of lColorVal.
 void ShowColorName(Session& s);
 
-// Connects the colour block's controls and timers to their routines.
-void wireColours(Session& s);
-
 }  // namespace qp

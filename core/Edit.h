@@ -25,6 +25,4 @@ void PasteToFloat(Session& s);
 void tTemp_Timer(Session& s);
 void pTemp_MouseDown(Session& s, int Button, int Shift, Single X, Single Y);
 
-void wireEditCommands(Session& s);
-
 }  // namespace qp

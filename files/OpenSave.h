@@ -14,8 +14,4 @@ void mLo_Click(Session& s);
 void frmLO_Resize(Session& s);
 void iLO_Click(Session& s);
 
-// Every event of the file window, the Explorer panel, the File menu's Open and Save, drops on the
-// canvas and the layout preview, each to its routine.
-void wireFiles(Session& s);
-
 }  // namespace qp

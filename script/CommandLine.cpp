@@ -8,7 +8,7 @@
 #include <cstdio>
 
 #include "script/Sessions.h"
-#include "ui/Program.h"
+#include "app/Program.h"
 
 namespace qp::script {
 

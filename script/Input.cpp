@@ -8,7 +8,7 @@
 #include "platform/Form.h"
 #include "script/Runner.h"
 #include "surface/PictureBox.h"
-#include "ui/Program.h"
+#include "app/Program.h"
 
 namespace qp::script {
 

@@ -20,7 +20,7 @@
 #include "script/CommandLine.h"
 #include "script/Sessions.h"
 #include "surface/PictureBox.h"
-#include "ui/Program.h"
+#include "app/Program.h"
 
 namespace qp::script {
 

@@ -24,7 +24,7 @@
 #include "script/CommandLine.h"
 #include "script/Command.h"
 #include "surface/PictureBox.h"
-#include "ui/Program.h"
+#include "app/Program.h"
 
 namespace qp::script {
 

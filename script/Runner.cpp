@@ -9,7 +9,7 @@
 #include "platform/Runtime.h"
 #include "script/Value.h"
 #include "surface/PictureBox.h"
-#include "ui/Program.h"
+#include "app/Program.h"
 
 namespace qp::script {
 

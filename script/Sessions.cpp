@@ -10,7 +10,7 @@
 
 #include "platform/qt/FormView.h"
 #include "platform/qt/QtRuntime.h"
-#include "ui/Program.h"
+#include "app/Program.h"
 
 namespace qp::script {
 

@@ -1,7 +1,7 @@
 #pragma once
 // The main window: its controls, grouped by where they sit, and its shared variables. The window
 // itself holds no logic; the routines that give the controls their meaning live in core/, color/
-// and tools/ and are wired to the controls' events by wireCanvas (ui/CanvasWiring.cpp).
+// and tools/ and are wired to the controls' events by wireCanvas (app/CanvasWiring.cpp).
 #include "platform/Form.h"
 #include "ui/CanvasArea.h"
 #include "ui/CanvasMenus.h"

@@ -15,7 +15,7 @@
 #include "script/Recorder.h"
 #include "script/Runner.h"
 #include "script/Sessions.h"
-#include "ui/Program.h"
+#include "app/Program.h"
 
 namespace qp::script {
 

@@ -7,7 +7,7 @@
 
 #include "script/Runner.h"
 #include "script/Sessions.h"
-#include "ui/Program.h"
+#include "app/Program.h"
 
 namespace qp::script {
 

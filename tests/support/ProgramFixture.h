@@ -5,7 +5,7 @@
 #include <memory>
 
 #include "platform/Headless.h"
-#include "ui/Program.h"
+#include "app/Program.h"
 
 namespace qp::test {
 

@@ -1,5 +1,6 @@
-#include "ui/Program.h"
+#include "app/Program.h"
 
+#include "app/Wiring.h"
 #include "tools/Tools.h"
 
 namespace qp {

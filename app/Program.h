@@ -33,7 +33,4 @@ class Program {
   bool quitRequested_ = false;
 };
 
-// Connects every control of the main window to its routine.
-void wireCanvas(Session& s, const std::function<void()>& quit);
-
 }  // namespace qp

@@ -1,4 +1,5 @@
 // Connects the colour block's controls and the colour timers to their routines.
+#include "app/Wiring.h"
 #include "color/ColourEngine.h"
 #include "color/ColourPickers.h"
 #include "ui/frmCanvas.h"

@@ -1,4 +1,5 @@
 // The Edit menu's items, the canvas menu's reset and the canvas colour, each to its routine.
+#include "app/Wiring.h"
 #include "core/Edit.h"
 #include "ui/frmCanvas.h"
 

@@ -1,4 +1,5 @@
 // The files' events, each to its routine.
+#include "app/Wiring.h"
 #include "core/Edit.h"
 #include "files/Explorer.h"
 #include "files/FileDialog.h"

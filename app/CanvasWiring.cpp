@@ -1,4 +1,5 @@
 // The main window's events, each to its routine.
+#include "app/Wiring.h"
 #include "color/ColourEngine.h"
 #include "core/ApplyPaintMode.h"
 #include "core/CanvasSize.h"
@@ -15,7 +16,7 @@
 #include "core/Undo.h"
 #include "files/OpenSave.h"
 #include "tools/AutoDraw.h"
-#include "ui/Program.h"
+#include "app/Program.h"
 
 namespace qp {
 
