@@ -1,14 +1,17 @@
 #pragma once
-// The program's windows beside the main one. Each is built once and shown when asked for.
+// The program's windows beside the main one. Each is built once and shown when asked for; frmStash
+// is never shown.
 #include "ui/frmFile.h"
 #include "ui/frmLO.h"
+#include "ui/frmStash.h"
 
 namespace qp {
 
 struct Windows {
-  explicit Windows(Runtime& rt) : file(rt), lo(rt) {}
+  explicit Windows(Runtime& rt) : file(rt), lo(rt), stash(rt) {}
   frmFile file;
   frmLO lo;
+  frmStash stash;
 };
 
 }  // namespace qp

@@ -1,0 +1,27 @@
+#pragma once
+// The hidden holder of pictures that outlive the workshop windows. Each workshop leaves its last
+// picture in its holder and writes "Temp" into the label beside it; at the next opening the workshop
+// takes the picture back when that mark stands. Nothing of this goes to disk.
+#include "platform/Controls.h"
+#include "platform/Form.h"
+#include "surface/PictureBox.h"
+
+namespace qp {
+
+class frmStash : public Form {
+ public:
+  explicit frmStash(Runtime& rt);
+
+  PictureBox pTile;     // TileSetter's working picture
+  PictureBox pTrans;    // the Transparency Tool's working picture
+  PictureBox pBlu;      // the Image Blender's BlueScreen picture
+  PictureBox pStretch;  // the Image Stretcher's source picture
+  PictureBox pPro1;     // scratch holders of the workshops
+  PictureBox pPro2;
+  Label lTile;
+  Label lTrans;
+  Label lBlu;
+  Label lStretch;
+};
+
+}  // namespace qp
