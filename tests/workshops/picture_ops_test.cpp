@@ -1,0 +1,197 @@
+// The workshops' whole-picture operations on their own: tiling styles, the blend's arithmetic,
+// the key-colour overlay, stretching and cropping.
+#include <gtest/gtest.h>
+
+#include <QImage>
+#include <cmath>
+#include <random>
+
+#include "workshops/PictureOps.h"
+
+namespace qp::test {
+namespace {
+
+constexpr QRgb kRed = 0xFFFF0000, kGreen = 0xFF00FF00, kBlue = 0xFF0000FF, kBlack = 0xFF000000;
+
+QImage filled(int w, int h, QRgb c) {
+  QImage img(w, h, QImage::Format_RGB32);
+  img.fill(c);
+  return img;
+}
+
+// ---- tiling ------------------------------------------------------------------------------------
+
+// The first image is red on its left half and green on its right, so a mirrored tile starts green.
+QImage halves() {
+  QImage img = filled(8, 8, kRed);
+  for (int y = 0; y < 8; ++y)
+    for (int x = 4; x < 8; ++x) img.setPixel(x, y, kGreen);
+  return img;
+}
+
+// What each of the 4 x 4 cells shows near its left edge: N the first image, M it mirrored,
+// 2 the second image, . nothing (the black output).
+QString cellsOf(const QImage& out) {
+  QString s;
+  for (int r = 0; r < 4; ++r) {
+    for (int c = 0; c < 4; ++c) {
+      const QRgb p = out.pixel(c * 10 + 2, r * 10 + 5);
+      s += p == kRed ? 'N' : p == kGreen ? 'M' : p == kBlue ? '2' : p == kBlack ? '.' : '?';
+    }
+    if (r < 3) s += '/';
+  }
+  return s;
+}
+
+TEST(Tiling, EachStyleFillsItsCellsAndMirrorsThroughTheLastRowAndColumn) {
+  const char* expected[kTileStyles] = {
+      "NNNN/NNNN/NNNN/NNNN", "MMMM/MMMM/MMMM/MMMM", "N.N./.N.N/N.N./.N.N", "NMNM/NMNM/NMNM/NMNM",
+      "NNNN/..../NNNN/....", "N.N./N.N./N.N./N.N.", "NMNM/.M.M/NMNM/.M.M", "MMMM/N.N./MMMM/N.N.",
+      "N.N./.M.M/NMNM/.M.M", "2N2N/N2N2/2N2N/N2N2", "NNNN/N2N2/NNNN/N2N2", "2222/NNNN/2222/NNNN",
+      "2N2N/2N2N/2N2N/2N2N", "N.N./.2.2/N.N./.2.2"};
+  for (int style = 0; style < kTileStyles; ++style) {
+    QImage out = filled(40, 40, kBlack);
+    TilePicture(out, halves(), filled(3, 3, kBlue), style, 4, 4);
+    EXPECT_EQ(cellsOf(out), QString(expected[style])) << "style " << style << " " << TileStyleName(style).toStdString();
+  }
+}
+
+TEST(Tiling, TilesStretchToTheCellAndTheClippedExtraColumnCoversTheRemainder) {
+  // 7 tiles across 50 pixels: cells of 7.14 pixels; no pixel stays uncovered.
+  QImage out = filled(50, 30, kBlack);
+  TilePicture(out, filled(2, 2, kRed), QImage(), 0, 7, 3);
+  for (int y = 0; y < 30; ++y)
+    for (int x = 0; x < 50; ++x) ASSERT_EQ(out.pixel(x, y), kRed) << x << "," << y;
+  // A mirrored tile is the image reversed within its own cell.
+  QImage mirrored = filled(40, 10, kBlack);
+  TilePicture(mirrored, halves(), QImage(), 1, 4, 1);
+  EXPECT_EQ(mirrored.pixel(0, 5), kGreen);
+  EXPECT_EQ(mirrored.pixel(9, 5), kRed);
+  EXPECT_EQ(mirrored.pixel(39, 5), kRed);
+}
+
+TEST(Tiling, DoubleStylesWithoutASecondImageAndBadCountsDrawNothing) {
+  for (auto [style, wide, high] : {std::tuple{13, 4, 4}, {0, 0, 4}, {0, 4, -1}, {14, 4, 4}, {-1, 2, 2}}) {
+    QImage out = filled(20, 20, kBlack);
+    TilePicture(out, halves(), QImage(), style, wide, high);
+    EXPECT_EQ(out, filled(20, 20, kBlack)) << style;
+  }
+  EXPECT_EQ(TileStyleName(3), "Full Alterenating Reversed");
+  EXPECT_EQ(TileStyleName(9), "Double Interaced");
+}
+
+// ---- blending ----------------------------------------------------------------------------------
+
+// The blend as the pixel-by-pixel routine computes it: colours read as 0xBBGGRR (-1 outside the
+// second picture), split with Mod and Int, mixed in double precision, rounded half to even; a
+// channel below zero is a colour that cannot be made, and the routine stops there.
+BlendOutcome plainBlend(const QImage& one, const QImage& two, int p) {
+  BlendOutcome r{QImage(one.size(), QImage::Format_RGB32), true};
+  r.picture.fill(kBlack);
+  auto colourAt = [](const QImage& img, int x, int y) -> long long {
+    if (x >= img.width() || y >= img.height()) return -1;
+    const QRgb c = img.pixel(x, y);
+    return qRed(c) + qGreen(c) * 256LL + qBlue(c) * 65536LL;
+  };
+  for (int x = 0; x < one.width(); ++x) {
+    for (int y = 0; y < one.height(); ++y) {
+      const long long c1 = colourAt(one, x, y), c2 = colourAt(two, x, y);
+      const long long r1 = c1 % 256, b1 = static_cast<long long>(std::floor(c1 / 65536.0)), g1 = (c1 - b1 * 65536 - r1) / 256;
+      const long long r2 = c2 % 256, b2 = static_cast<long long>(std::floor(c2 / 65536.0)), g2 = (c2 - b2 * 65536 - r2) / 256;
+      const double R = std::nearbyint((r2 * p + r1 * (100.0 - p)) / 100);
+      const double G = std::nearbyint((g2 * p + g1 * (100.0 - p)) / 100);
+      const double B = std::nearbyint((b2 * p + b1 * (100.0 - p)) / 100);
+      if (R < 0 || G < 0 || B < 0) {
+        r.complete = false;
+        return r;
+      }
+      r.picture.setPixel(x, y, qRgb(std::min(R, 255.0), std::min(G, 255.0), std::min(B, 255.0)));
+    }
+  }
+  return r;
+}
+
+QImage noise(std::mt19937& rng, int w, int h) {
+  QImage img(w, h, QImage::Format_RGB32);
+  for (int y = 0; y < h; ++y)
+    for (int x = 0; x < w; ++x) img.setPixel(x, y, 0xFF000000u | (rng() & 0xFFFFFFu));
+  return img;
+}
+
+TEST(Blend, FastPathMatchesThePlainFormulaOnEveryPixel) {
+  std::mt19937 rng(20240611);
+  for (int round = 0; round < 24; ++round) {
+    const int w = 1 + static_cast<int>(rng() % 90), h = 1 + static_cast<int>(rng() % 70);
+    const int p = round < 3 ? round * 50 : static_cast<int>(rng() % 101);
+    const QImage one = noise(rng, w, h);
+    // Every fourth round the second picture is smaller: its missing pixels read as -1.
+    const QImage two = round % 4 == 3 ? noise(rng, std::max(1, w / 2), std::max(1, h / 2)) : noise(rng, w, h);
+    const BlendOutcome fast = BlendPictures(one, two, p), plain = plainBlend(one, two, p);
+    ASSERT_EQ(fast.complete, plain.complete) << "round " << round << " p " << p;
+    ASSERT_EQ(fast.picture, plain.picture) << "round " << round << " p " << p;
+  }
+}
+
+TEST(Blend, HalvesRoundToEven) {
+  struct Case { int one, two, p, want; };
+  for (const Case c : {Case{1, 2, 50, 2}, {2, 3, 50, 2}, {3, 4, 50, 4}, {0, 255, 10, 26}, {200, 100, 90, 110},
+                       {255, 0, 50, 128}, {9, 0, 50, 4}}) {
+    const BlendOutcome out = BlendPictures(filled(1, 1, qRgb(c.one, 0, 0)), filled(1, 1, qRgb(c.two, 0, 0)), c.p);
+    EXPECT_EQ(qRed(out.picture.pixel(0, 0)), c.want) << c.one << " " << c.two << " at " << c.p;
+  }
+}
+
+TEST(Blend, WhereTheSecondPictureEndsADarkPixelStopsTheBlendInColumnOrder) {
+  // At 90 percent, red 0 against the missing pixel's -1 gives -0.9, which rounds to -1.
+  QImage one = filled(4, 3, qRgb(200, 200, 200));
+  one.setPixel(2, 1, qRgb(0, 200, 200));
+  const BlendOutcome out = BlendPictures(one, filled(2, 3, qRgb(10, 10, 10)), 90);
+  EXPECT_FALSE(out.complete);
+  EXPECT_EQ(out.picture.pixel(2, 0), qRgb(19, 250, 19));  // written before the stop
+  EXPECT_EQ(out.picture.pixel(2, 1), kBlack);
+  EXPECT_EQ(out.picture.pixel(2, 2), kBlack);
+  EXPECT_EQ(out.picture.pixel(3, 0), kBlack);
+  EXPECT_EQ(out.picture.pixel(1, 2), qRgb(29, 29, 29));
+  EXPECT_TRUE(BlendPictures(QImage(), one, 50).picture.isNull());
+}
+
+// ---- key colour, stretch, crop ------------------------------------------------------------------
+
+TEST(KeyColour, KeyPixelsLetTheBaseThroughAndOthersCoverIt) {
+  QImage base = filled(4, 4, kRed);
+  QImage over = filled(3, 3, kGreen);
+  over.setPixel(1, 1, kBlue);  // blue is 0xFF0000 as a colour
+  KeyColourOverlay(base, over, 0xFF0000);
+  EXPECT_EQ(base.pixel(1, 1), kRed);
+  EXPECT_EQ(base.pixel(0, 0), kGreen);
+  EXPECT_EQ(base.pixel(3, 3), kRed);  // beyond the overlay
+  QImage opaque = filled(2, 2, kRed);
+  KeyColourOverlay(opaque, filled(2, 2, kGreen), 0x000000);  // a key the picture does not hold
+  EXPECT_EQ(opaque, filled(2, 2, kGreen));
+}
+
+TEST(Stretch, EverySourcePixelTakesItsShareOfTheTarget) {
+  QImage src(3, 2, QImage::Format_RGB32);
+  const QRgb colours[] = {kRed, kGreen, kBlue, kBlack, 0xFFFFFFFF, 0xFF808080};
+  for (int i = 0; i < 6; ++i) src.setPixel(i % 3, i / 3, colours[i]);
+  const QImage big = StretchPicture(src, 6, 4);
+  ASSERT_EQ(big.size(), QSize(6, 4));
+  for (int y = 0; y < 4; ++y)
+    for (int x = 0; x < 6; ++x) EXPECT_EQ(big.pixel(x, y), src.pixel(x / 2, y / 2)) << x << "," << y;
+  EXPECT_EQ(StretchPicture(big, 3, 2), src);  // and back, nothing lost
+  EXPECT_TRUE(StretchPicture(src, 0, 5).isNull());
+  EXPECT_EQ(StretchPicture(filled(1, 1, kBlue), 5, 3), filled(5, 3, kBlue));
+}
+
+TEST(Crop, TheRectangleIsCutToThePicture) {
+  QImage img = filled(10, 8, kRed);
+  img.setPixel(9, 7, kBlue);
+  struct Case { QRect rect; QSize want; };
+  for (const Case c : {Case{QRect(2, 3, 4, 2), QSize(4, 2)}, {QRect(8, 6, 10, 10), QSize(2, 2)},
+                       {QRect(-5, -5, 7, 6), QSize(2, 1)}, {QRect(20, 0, 3, 3), QSize(0, 0)}, {QRect(1, 1, 0, 4), QSize(0, 0)}})
+    EXPECT_EQ(CropPicture(img, c.rect).size(), c.want) << c.rect.x() << "," << c.rect.y();
+  EXPECT_EQ(CropPicture(img, QRect(8, 6, 10, 10)).pixel(1, 1), kBlue);
+}
+
+}  // namespace
+}  // namespace qp::test
