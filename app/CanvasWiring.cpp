@@ -133,6 +133,9 @@ void wireCanvas(Session& s, const std::function<void()>& quit) {
   wireKeyboard(s, quit);
   wireAutoDraw(s);
   wireFiles(s);
+  wireTileSetter(s);
+  wireImageBlender(s);
+  wireImageStretcher(s);
 }
 
 }  // namespace qp

@@ -16,5 +16,9 @@ void wireEditCommands(Session& s);
 // The file window, the Explorer panel, the File menu's Open and Save, drops on the canvas and the
 // layout preview.
 void wireFiles(Session& s);
+// The image workshops, each opened from the main window's Image Toolz menu.
+void wireTileSetter(Session& s);
+void wireImageBlender(Session& s);
+void wireImageStretcher(Session& s);
 
 }  // namespace qp

@@ -26,9 +26,8 @@ void ShowFileDialog(Session& s, const QString& caption) {
 
 namespace {
 
-// What each save caption writes. The tile, stretch, blend and blue-screen workshops have no
-// window in this program yet, so their captions write nothing; OK then only closes, as it does
-// for a caption it does not know.
+// What each save caption writes. A caption whose window is not part of the program writes
+// nothing; OK then only closes, as it does for a caption it does not know.
 struct SaveKind {
   const QString& caption;
   QImage (*picture)(Session&);  // null: nothing to write
@@ -37,15 +36,21 @@ struct SaveKind {
 
 QImage canvasImage(Session& s) { return s.f.PicPaint.Image; }
 QImage selectionImage(Session& s) { return s.f.pSpire.Image; }
+// The workshops' pictures, each flattened by the menu item that opened the dialog.
+QImage tiledImage(Session& s) { return s.windows->tile.pLO.Picture; }
+QImage stretchedImage(Session& s) { return s.windows->stretch.pLO.Picture; }
+QImage croppedImage(Session& s) { return s.windows->stretch.pT1.Picture; }
+QImage blendedImage(Session& s) { return s.windows->blend.pTemp.Picture; }
+QImage blueScreenImage(Session& s) { return s.windows->blend.pT1.Picture; }
 
 const SaveKind kSaveKinds[] = {
     {FileMode::SaveImage, canvasImage, true},
     {FileMode::SaveSelection, selectionImage, false},
-    {FileMode::SaveTiled, nullptr, false},
-    {FileMode::SaveStretched, nullptr, false},
-    {FileMode::SaveCropped, nullptr, false},
-    {FileMode::SaveBlended, nullptr, false},
-    {FileMode::SaveBlueScreen, nullptr, false},
+    {FileMode::SaveTiled, tiledImage, false},
+    {FileMode::SaveStretched, stretchedImage, false},
+    {FileMode::SaveCropped, croppedImage, false},
+    {FileMode::SaveBlended, blendedImage, false},
+    {FileMode::SaveBlueScreen, blueScreenImage, false},
     {FileMode::SaveMask, nullptr, false},
 };
 
@@ -55,8 +60,16 @@ const SaveKind* saveKindOf(const QString& caption) {
   return nullptr;
 }
 
-// The stretcher's picture holder is not part of the program yet: its load mode finds no target.
-void loadForStretcher(Session&, const QString&) {}
+// The Image Stretcher's source: shown as it came until the window's next resize stretches it.
+void loadForStretcher(Session& s, const QString& path) {
+  if (!s.windows) return;
+  frmStretch& w = s.windows->stretch;
+  w.pTemp.Picture = LoadPicture(path);
+  w.mSave.Enabled = true;
+  w.pTemp.Move(w.pLO.Left, w.pLO.Top);
+  w.pTemp.Visible = true;
+  w.pLO.Picture = w.pTemp.Picture;
+}
 
 // Runs one statement of a routine whose errors are stepped over, one by one.
 template <class F>
@@ -116,6 +129,12 @@ void frmFile_Load(Session& s) {
       d->Drive1.Drive = drive;
       d->Dir1.Path = folder;
     }
+    frmStretch& stretch = s.windows->stretch;
+    const QString stretchDrive = stretch.lDrive.Caption, stretchFolder = stretch.lDir.Caption;
+    if (caption == FileMode::LoadStretch && !stretchFolder.isEmpty()) {
+      d->Drive1.Drive = stretchDrive;
+      d->Dir1.Path = stretchFolder;
+    }
     d->CmbType.ListIndex = 0;
   });
 }
@@ -135,6 +154,7 @@ void frmFile_Drive1_Change(Session& s) {
   trap([&] {
     d->Dir1.Path = d->Drive1.Drive.get();
     s.f.lDrive.Caption = d->Drive1.Drive.get();
+    s.windows->stretch.lDrive.Caption = d->Drive1.Drive.get();
   });
 }
 
@@ -143,7 +163,9 @@ void frmFile_Dir1_Change(Session& s) {
   if (!d) return;
   stepOver([&] { d->File1.Path = d->Dir1.Path.get(); });
   stepOver([&] { s.f.lDrive.Caption = d->Drive1.Drive.get(); });
+  stepOver([&] { s.windows->stretch.lDrive.Caption = d->Drive1.Drive.get(); });
   stepOver([&] { s.f.lDir.Caption = d->Dir1.Path.get(); });
+  stepOver([&] { s.windows->stretch.lDir.Caption = d->Dir1.Path.get(); });
 }
 
 void frmFile_File1_Click(Session& s) {

@@ -4,6 +4,9 @@
 #include "ui/frmFile.h"
 #include "ui/frmLO.h"
 #include "ui/frmStash.h"
+#include "ui/frmBlend.h"
+#include "ui/frmStretch.h"
+#include "ui/frmTile.h"
 
 namespace qp {
 
@@ -12,6 +15,10 @@ struct Windows {
   frmFile file;
   frmLO lo;
   frmStash stash;
+  // The image workshops, built on the same runtime as the windows above.
+  frmTile tile{stash.runtime()};
+  frmBlend blend{stash.runtime()};
+  frmStretch stretch{stash.runtime()};
 };
 
 }  // namespace qp

@@ -1,0 +1,303 @@
+// The three workshop windows driven through their controls: opening from the main window, the
+// "Processing..." waits, the modes, the "Temp" return, and every save mode through the file window.
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QImage>
+#include <QTemporaryDir>
+
+#include "support/ProgramFixture.h"
+#include "ui/Windows.h"
+#include "ui/frmFile.h"
+
+namespace qp::test {
+namespace {
+
+QImage solid(int w, int h, QRgb c) {
+  QImage img(w, h, QImage::Format_RGB32);
+  img.fill(c);
+  return img;
+}
+
+class WorkshopTest : public ProgramTest {
+ protected:
+  frmTile& tile() { return program->w.tile; }
+  frmBlend& blend() { return program->w.blend; }
+  frmStretch& stretch() { return program->w.stretch; }
+  frmFile& dialog() { return program->w.file; }
+  void paste(Menu& item, const QImage& picture) {
+    headless.clipboard.SetData(picture);
+    item.raiseClick();
+  }
+  QRgb pixelOf(PictureBox& box, int x, int y) { return box.bitmap().pixel(x, y); }
+  // OK in the file window with the name typed, in the test's folder; the path that should exist.
+  QString saveAs(const QString& name) {
+    dialog().Dir1.Path = folder.path();
+    dialog().TxtFile.Text = name;
+    dialog().cmdOK.raiseClick();
+    return QDir(folder.path()).filePath(name + ".bmp");
+  }
+  QTemporaryDir folder;
+};
+
+// ---- TileSetter ---------------------------------------------------------------------------------
+
+TEST_F(WorkshopTest, TileSetterTilesAfterItsWaitAndSaysSo) {
+  choose(f().mTileSet);
+  ASSERT_TRUE(tile().Visible);
+  EXPECT_FALSE(tile().cTile.Enabled);
+  paste(tile().mPaste, solid(4, 4, 0xFFFF0000));
+  EXPECT_EQ(tile().lPath1.Caption.get(), "Image1: Clipboard");
+  tile().cTile.raiseClick();
+  EXPECT_EQ(tile().lHelp.Caption.get(), "Processing... Please wait");
+  headless.loop.advance(499);
+  EXPECT_EQ(pixelOf(tile().pLO, 10, 10), 0xFF000000u);
+  headless.loop.advance(1);
+  EXPECT_EQ(tile().lHelp.Caption.get(), "Finished");
+  EXPECT_EQ(tile().lT2.Caption.get(), "1");
+  EXPECT_EQ(pixelOf(tile().pLO, 639, 479), 0xFFFF0000u);
+  EXPECT_TRUE(tile().mFile.Enabled);
+}
+
+TEST_F(WorkshopTest, PresetCountsApplyFromTheThirdStyleOnAndTheArrowsToTheFirstTwo) {
+  choose(f().mTileSet);
+  QImage halves = solid(8, 8, 0xFFFF0000);
+  for (int y = 0; y < 8; ++y) halves.setPixel(7, y, 0xFF00FF00);
+  paste(tile().mPaste, halves);
+  tile().vTW.Value = 4;
+  struct Case { int style; int checked; int wide; };
+  for (const Case c : {Case{0, 1, 4}, {2, 1, 7}, {2, 0, 4}}) {
+    tile().vTile.Value = c.style;
+    tile().ckVals.Value = c.checked;
+    tile().cTile.raiseClick();
+    headless.loop.advance(500);
+    EXPECT_EQ(tile().TilesWide.value(), c.wide) << c.style;
+    // The last pixel of the first cell is the image's green edge.
+    const int cell = 640 / c.wide;
+    EXPECT_EQ(pixelOf(tile().pLO, cell - 1, 2), 0xFF00FF00u) << c.style;
+  }
+}
+
+TEST_F(WorkshopTest, TwoImageStyleWithoutTheSecondSaysSoAndDrawsNothing) {
+  choose(f().mTileSet);
+  paste(tile().mPaste, solid(4, 4, 0xFFFF0000));
+  tile().vTile.Value = 13;
+  EXPECT_EQ(tile().lTile.Caption.get(), "Single Normal");  // the name waits for a second image
+  tile().cTile.raiseClick();
+  headless.loop.advance(500);
+  ASSERT_FALSE(headless.msgbox.shown().empty());
+  EXPECT_EQ(headless.msgbox.shown().back().prompt, "Second image has not been loaded");
+  EXPECT_EQ(pixelOf(tile().pLO, 0, 0), 0xFF000000u);
+  EXPECT_TRUE(tile().mSave.Enabled);
+}
+
+TEST_F(WorkshopTest, ClosingMidWaitDrawsNothingAndReopeningBringsTheTileBack) {
+  choose(f().mTileSet);
+  paste(tile().mPaste, solid(4, 4, 0xFF00FF00));
+  tile().cTile.raiseClick();
+  headless.loop.advance(500);
+  tile().vTile.Value = 4;
+  tile().cTile.raiseClick();
+  tile().Unload();
+  headless.loop.advance(2000);
+  EXPECT_FALSE(tile().Visible);
+  EXPECT_EQ(program->w.stash.lTile.Caption.get(), "Temp");
+  choose(f().mTileSet);
+  EXPECT_EQ(pixelOf(tile().pLO, 5, 400), 0xFF00FF00u);  // style 0's result, not style 4's gaps
+}
+
+TEST_F(WorkshopTest, DraggingOnTheOutputTakesATile) {
+  choose(f().mTileSet);
+  paste(tile().mPaste, solid(4, 4, 0xFF0000FF));
+  tile().cTile.raiseClick();
+  headless.loop.advance(500);
+  tile().pLO.raiseMouseDown(vbLeftButton, 0, 150, 300);
+  tile().pLO.raiseMouseMove(vbLeftButton, 0, 600, 900);
+  tile().pLO.raiseMouseUp(vbLeftButton, 0, 600, 900);
+  EXPECT_EQ(tile().pT1.Picture.get().size(), QSize(30, 40));
+  EXPECT_EQ(tile().iPre1.Picture.size(), QSize(30, 40));
+  tile().mNew.raiseClick();
+  EXPECT_EQ(pixelOf(tile().pLO, 5, 5), 0xFF000000u);
+}
+
+TEST_F(WorkshopTest, SendingTheTilesPutsThemOnTheCanvasAndClosesTheWindow) {
+  choose(f().mTileSet);
+  paste(tile().mPaste, solid(4, 4, 0xFF00FF00));
+  tile().cTile.raiseClick();
+  headless.loop.advance(500);
+  tile().mSend.raiseClick();
+  EXPECT_FALSE(tile().Visible);
+  EXPECT_EQ(m().CurrentFile, "Untitled.bmp");
+  EXPECT_EQ(pixel(600, 400), 0x00FF00);
+}
+
+// ---- Image Blender -----------------------------------------------------------------------------
+
+TEST_F(WorkshopTest, BlendPixMixesAtThePercentageAfterItsWait) {
+  choose(f().mBlend);
+  paste(blend().mPaste, solid(10, 10, qRgb(1, 100, 0)));
+  EXPECT_FALSE(blend().cGo.Enabled);
+  paste(blend().mPaste, solid(20, 5, qRgb(2, 200, 255)));
+  EXPECT_EQ(blend().lPic2.Caption.get(), "Clipboard Image 2");
+  ASSERT_TRUE(blend().cGo.Enabled);
+  blend().cGo.raiseClick();
+  EXPECT_EQ(blend().Caption.get(), "Processing... Please Wait");
+  headless.loop.advance(500);
+  ASSERT_TRUE(blend().pTemp.Visible);
+  EXPECT_EQ(blend().Caption.get(), frmBlend::kCaption);
+  // Both pictures fill the working area; 1 and 2 at 50 percent make 1.5, which rounds to 2.
+  EXPECT_EQ(blend().pTemp.bitmap().size(), QSize(640, 480));
+  EXPECT_EQ(pixelOf(blend().pTemp, 300, 300), qRgb(2, 150, 128));
+  blend().vVal.arrowUp();
+  EXPECT_EQ(blend().lVal.Caption.get(), "60%");
+}
+
+TEST_F(WorkshopTest, BlueScreenErasesUndoesTheLastPressAndOverlays) {
+  choose(f().mBlend);
+  blend().mBlue.raiseClick();
+  ASSERT_TRUE(blend().fRase.Visible);
+  blend().lBlk.raiseClick();
+  EXPECT_EQ(blend().lColor.Caption.get(), "Transparent Color : Black");
+  paste(blend().mPaste, solid(8, 8, 0xFFFF0000));
+  paste(blend().mPaste, solid(8, 8, 0xFF00FF00));
+  blend().vVal.Value = 20;
+  for (Single x : {100.0f, 300.0f}) {
+    blend().pT2.raiseMouseDown(vbLeftButton, 0, x, 100);
+    blend().pT2.raiseMouseUp(vbLeftButton, 0, x, 100);
+  }
+  blend().pT2.raiseMouseUp(vbRightButton, 0, 0, 0);  // undoes the second press only
+  EXPECT_EQ(pixelOf(blend().pT2, 100, 100), 0xFF000000u);
+  EXPECT_EQ(pixelOf(blend().pT2, 300, 100), 0xFF00FF00u);
+  blend().cGo.raiseClick();
+  EXPECT_TRUE(blend().pT1.Visible);
+  EXPECT_EQ(pixelOf(blend().pT1, 100, 100), 0xFFFF0000u);  // the first image through the hole
+  EXPECT_EQ(pixelOf(blend().pT1, 300, 100), 0xFF00FF00u);
+}
+
+TEST_F(WorkshopTest, CtrlClickOnTheSecondImagePicksTheKeyColour) {
+  choose(f().mBlend);
+  blend().mBlue.raiseClick();
+  paste(blend().mPaste, solid(8, 8, 0xFFFF0000));
+  paste(blend().mPaste, solid(8, 8, qRgb(10, 20, 30)));
+  int ctrl = 17;
+  blend().KeyDown(ctrl, vbCtrlMask);
+  blend().pT2.raiseMouseDown(vbLeftButton, vbCtrlMask, 50, 50);
+  blend().pT2.raiseMouseMove(0, vbCtrlMask, 50, 50);
+  EXPECT_NE(m().TransparentClr.value(), 0x1E140A);  // only the release takes it
+  blend().pT2.raiseMouseUp(vbLeftButton, vbCtrlMask, 50, 50);
+  EXPECT_EQ(m().TransparentClr.value(), 0x1E140A);
+  EXPECT_EQ(blend().lColor.Caption.get(), "Transparent Color Selected");
+  EXPECT_EQ(pixelOf(blend().pT2, 50, 50), qRgb(10, 20, 30));  // picking erases nothing
+}
+
+// ---- Image Stretcher ----------------------------------------------------------------------------
+
+TEST_F(WorkshopTest, TheWindowSizeDrivesTheStretchAlwaysFromTheSource) {
+  choose(f().mStretch);
+  QImage src = solid(4, 2, 0xFFFF0000);
+  src.setPixel(3, 1, 0xFF0000FF);
+  paste(stretch().mClip, src);
+  stretch().Move(0, 0, 6360, 3720);  // pLO 400 x 200
+  EXPECT_EQ(stretch().pLO.bitmap().size(), QSize(400, 200));
+  EXPECT_EQ(pixelOf(stretch().pLO, 399, 199), 0xFF0000FFu);
+  EXPECT_EQ(pixelOf(stretch().pLO, 299, 99), 0xFFFF0000u);
+  EXPECT_EQ(stretch().Caption.get(), " Quillora Image Stretcher 400 x 200");
+  const QImage first = stretch().pLO.bitmap();
+  stretch().Move(0, 0, 420, 735);  // down to 4 x 1 and back
+  stretch().Move(0, 0, 6360, 3720);
+  EXPECT_EQ(stretch().pLO.bitmap(), first);
+  stretch().Move(0, 0, 0, 0);  // dragged to nothing: the last stretch stays
+  EXPECT_EQ(stretch().pLO.bitmap(), first);
+}
+
+TEST_F(WorkshopTest, ACropIsDraggedAndLostOnResize) {
+  choose(f().mStretch);
+  paste(stretch().mClip, solid(4, 4, 0xFF00FF00));
+  stretch().Move(0, 0, 6360, 3720);
+  stretch().pLO.raiseMouseDown(vbLeftButton, 0, 1500, 900);
+  stretch().pLO.raiseMouseMove(vbLeftButton, 0, 300, 1500);
+  stretch().pLO.raiseMouseUp(vbLeftButton, 0, 300, 1500);
+  EXPECT_EQ(stretch().pT1.Picture.get().size(), QSize(80, 40));
+  EXPECT_EQ(stretch().Caption.get(), "Selection Ready To Be Saved...");
+  EXPECT_TRUE(stretch().mSaveSel.Enabled);
+  headless.loop.advance(200);
+  EXPECT_EQ(stretch().DShp.BorderColor.get(), 0xE0E0E0);
+  stretch().Width = 6000;
+  EXPECT_FALSE(stretch().mSaveSel.Enabled);
+  EXPECT_FALSE(stretch().tSel.Enabled);
+}
+
+// ---- the save modes ----------------------------------------------------------------------------
+
+TEST_F(WorkshopTest, EverySaveModeWritesItsOwnPicture) {
+  // Tiled, stretched, cropped, blended, blue screen: each set up, then saved by its menu item.
+  choose(f().mTileSet);
+  paste(tile().mPaste, solid(4, 4, 0xFFFF0000));
+  tile().cTile.raiseClick();
+  headless.loop.advance(500);
+  tile().mSave.raiseClick();
+  EXPECT_EQ(dialog().Caption.get(), "Save Tiled Image As...");
+  EXPECT_EQ(dialog().Width.get(), frmFile::kSaveWidth);
+  EXPECT_EQ(QImage(saveAs("tiled")).pixel(0, 0), 0xFFFF0000u);
+  EXPECT_FALSE(dialog().Visible);
+
+  choose(f().mStretch);
+  paste(stretch().mClip, solid(2, 2, 0xFF0000FF));
+  stretch().Move(0, 0, 3360, 2220);
+  stretch().mSave.raiseClick();
+  EXPECT_EQ(QImage(saveAs("stretched")).size(), QSize(200, 100));
+  stretch().pLO.raiseMouseDown(vbLeftButton, 0, 0, 0);
+  stretch().pLO.raiseMouseMove(vbLeftButton, 0, 150, 300);
+  stretch().pLO.raiseMouseUp(vbLeftButton, 0, 150, 300);
+  stretch().mSaveSel.raiseClick();
+  EXPECT_EQ(dialog().Caption.get(), "Save Cropped Image As...");
+  EXPECT_EQ(QImage(saveAs("cropped")).size(), QSize(10, 20));
+
+  choose(f().mBlend);
+  paste(blend().mPaste, solid(2, 2, qRgb(0, 0, 0)));
+  paste(blend().mPaste, solid(2, 2, qRgb(100, 100, 100)));
+  blend().cGo.raiseClick();
+  headless.loop.advance(500);
+  blend().mSave.raiseClick();
+  EXPECT_EQ(dialog().Caption.get(), "Save Blended Image As...");
+  EXPECT_EQ(QImage(saveAs("blended")).pixel(5, 5), qRgb(50, 50, 50));
+  blend().mBlue.raiseClick();
+  paste(blend().mPaste, solid(2, 2, qRgb(9, 9, 9)));
+  paste(blend().mPaste, solid(2, 2, 0xFF000000));
+  blend().cGo.raiseClick();
+  blend().mSave.raiseClick();
+  EXPECT_EQ(dialog().Caption.get(), "Save BlueScreen Image As...");
+  EXPECT_EQ(QImage(saveAs("bluescreen")).pixel(5, 5), qRgb(9, 9, 9));
+}
+
+TEST_F(WorkshopTest, ASaveThatCannotBeWrittenLeavesTheDialogOpen) {
+  choose(f().mTileSet);
+  paste(tile().mPaste, solid(4, 4, 0xFFFF0000));
+  tile().mSave.raiseClick();
+  QDir(folder.path()).mkdir("x.bmp");  // a folder stands where the file would go
+  saveAs("x");
+  EXPECT_TRUE(dialog().Visible);
+  EXPECT_TRUE(QFileInfo(QDir(folder.path()).filePath("x.bmp")).isDir());
+  saveAs("y.jpg");  // refused with its message, nothing written
+  EXPECT_TRUE(dialog().Visible);
+  EXPECT_TRUE(headless.msgbox.shown().back().prompt.startsWith("Sorry... Quillora only saves .bmp files"));
+}
+
+TEST_F(WorkshopTest, TheFileWindowLoadsAPictureToStretch) {
+  const QString path = QDir(folder.path()).filePath("src.bmp");
+  solid(3, 3, 0xFF00FF00).save(path, "BMP");
+  choose(f().mStretch);
+  stretch().mLoad.raiseClick();
+  EXPECT_EQ(dialog().Caption.get(), "Load Image To Be Strecthed...");
+  dialog().Dir1.Path = folder.path();
+  dialog().File1.ListIndex = static_cast<int>(dialog().File1.items().indexOf("src.bmp"));
+  dialog().cmdOK.raiseClick();
+  EXPECT_TRUE(stretch().mSave.Enabled);
+  EXPECT_EQ(stretch().pTemp.Picture.get().size(), QSize(3, 3));
+  EXPECT_EQ(stretch().lDir.Caption.get(), dialog().Dir1.Path.get());
+  stretch().Width = 4000;
+  EXPECT_EQ(pixelOf(stretch().pLO, 200, 200), 0xFF00FF00u);
+}
+
+}  // namespace
+}  // namespace qp::test

@@ -1,0 +1,34 @@
+#include "ui/WorkshopExplorer.h"
+
+#include "ui/Place.h"
+
+namespace qp {
+
+WorkshopExplorer::WorkshopExplorer(Form& f, Frame& fX, const char* previewName)
+    : Drive1(&f, &fX, "Drive1"),
+      Dir1(&f, &fX, "Dir1"),
+      File1(&f, &fX, "File1"),
+      preview(&f, &fX, previewName),
+      cKay(&f, &fX, "cKay"),
+      cPatt(&f, &fX, "cPatt"),
+      cCancel(&f, &fX, "cCancel") {
+  fX.Caption = "Explorer";
+  fX.BackColor = 0x404040;
+  fX.ForeColor = 0xE0E0E0;
+  fX.Visible = false;
+  place(Drive1, 120, 240, 2415, 315);
+  place(Dir1, 120, 600, 2415, 2160);
+  place(File1, 2640, 240, 2415, 2520);
+  File1.Pattern = "*.bmp";
+  place(preview, 120, 2880, 2415, 2175);
+  preview.Stretch = true;
+  preview.BackColor = 0x808080;
+  place(cKay, 2640, 2880, 2415, 495);
+  cKay.Caption = "OK";
+  place(cPatt, 2640, 3480, 2415, 495);
+  cPatt.Caption = "*.bmp / *.jpg";
+  place(cCancel, 2640, 4080, 2415, 495);
+  cCancel.Caption = "Cancel";
+}
+
+}  // namespace qp
