@@ -131,6 +131,38 @@ TEST_F(WorkshopTest, SendingTheTilesPutsThemOnTheCanvasAndClosesTheWindow) {
   EXPECT_EQ(pixel(600, 400), 0x00FF00);
 }
 
+TEST_F(WorkshopTest, TheExplorerPanelLoadsWhatItPreviewsAndPassesOverABrokenFile) {
+  solid(6, 6, 0xFF00FF00).save(QDir(folder.path()).filePath("good.bmp"), "BMP");
+  QFile bad(QDir(folder.path()).filePath("bad.bmp"));
+  ASSERT_TRUE(bad.open(QIODevice::WriteOnly));
+  bad.write("BM not a picture");
+  bad.close();
+  auto pressFile = [&](WorkshopExplorer& x, const QString& name) {
+    x.Dir1.Path = folder.path();
+    x.File1.ListIndex = static_cast<int>(x.File1.items().indexOf(name));
+    x.File1.raiseMouseDown(vbLeftButton, 0, 0, 0);
+    x.cKay.raiseClick();
+  };
+  choose(f().mTileSet);
+  tile().mLoadImg.raiseClick();
+  ASSERT_TRUE(tile().fX.Visible);
+  pressFile(tile().explorer, "bad.bmp");
+  EXPECT_TRUE(tile().lPath1.Caption.get().isEmpty());
+  EXPECT_TRUE(tile().fX.Visible);
+  tile().opTilez(1).Value = true;  // the second slot
+  pressFile(tile().explorer, "good.bmp");
+  EXPECT_TRUE(tile().iPre2.Visible);
+  EXPECT_EQ(tile().iPre2.ToolTipText.get(), "good.bmp");
+  EXPECT_FALSE(tile().fX.Visible);
+
+  choose(f().mBlend);
+  blend().mLd2.raiseClick();
+  pressFile(blend().explorer, "good.bmp");
+  EXPECT_EQ(blend().lPic2.Caption.get(), "good.bmp");
+  EXPECT_TRUE(blend().lPic1.Caption.get().isEmpty());
+  EXPECT_FALSE(blend().cGo.Enabled);  // the first picture is still missing
+}
+
 // ---- Image Blender -----------------------------------------------------------------------------
 
 TEST_F(WorkshopTest, BlendPixMixesAtThePercentageAfterItsWait) {
