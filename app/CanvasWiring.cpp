@@ -133,6 +133,8 @@ void wireCanvas(Session& s, const std::function<void()>& quit) {
   wireKeyboard(s, quit);
   wireAutoDraw(s);
   wireFiles(s);
+  wireSelection(s);
+  wireTransparencyTool(s);
 }
 
 }  // namespace qp

@@ -16,5 +16,10 @@ void wireEditCommands(Session& s);
 // The file window, the Explorer panel, the File menu's Open and Save, drops on the canvas and the
 // layout preview.
 void wireFiles(Session& s);
+// The Selection Tool's menu and floating pictures, and Paint w/Pix on the canvas and the pixel
+// surface.
+void wireSelection(Session& s);
+// The Transparency Tool's window.
+void wireTransparencyTool(Session& s);
 
 }  // namespace qp

@@ -40,6 +40,8 @@ QImage selectionImage(Session& s) { return s.f.pSpire.Image; }
 
 const SaveKind kSaveKinds[] = {
     {FileMode::SaveImage, canvasImage, true},
+    // The Transparency Tool's working picture, when the session has that window.
+    {FileMode::SaveMask, [](Session& s) { return s.windows ? s.windows->blue.pBlu.Picture.get() : QImage(); }, false},
     {FileMode::SaveSelection, selectionImage, false},
     {FileMode::SaveTiled, nullptr, false},
     {FileMode::SaveStretched, nullptr, false},

@@ -1,6 +1,7 @@
 #pragma once
 // The program's windows beside the main one. Each is built once and shown when asked for; frmStash
 // is never shown.
+#include "ui/frmBlue.h"
 #include "ui/frmFile.h"
 #include "ui/frmLO.h"
 #include "ui/frmStash.h"
@@ -12,6 +13,7 @@ struct Windows {
   frmFile file;
   frmLO lo;
   frmStash stash;
+  frmBlue blue{stash.runtime()};  // the Transparency Tool
 };
 
 }  // namespace qp
