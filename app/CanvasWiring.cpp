@@ -136,6 +136,8 @@ void wireCanvas(Session& s, const std::function<void()>& quit) {
   wireTileSetter(s);
   wireImageBlender(s);
   wireImageStretcher(s);
+  wireSelection(s);
+  wireTransparencyTool(s);
 }
 
 }  // namespace qp

@@ -20,5 +20,10 @@ void wireFiles(Session& s);
 void wireTileSetter(Session& s);
 void wireImageBlender(Session& s);
 void wireImageStretcher(Session& s);
+// The Selection Tool's menu and floating pictures, and Paint w/Pix on the canvas and the pixel
+// surface.
+void wireSelection(Session& s);
+// The Transparency Tool's window.
+void wireTransparencyTool(Session& s);
 
 }  // namespace qp

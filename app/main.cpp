@@ -104,6 +104,7 @@ int main(int argc, char** argv) {
   qp::FormView tileView(program.w.tile);
   qp::FormView blendView(program.w.blend);
   qp::FormView stretchView(program.w.stretch);
+  qp::FormView blueView(program.w.blue);
   program.start();
   view.sync();
   view.window().show();

@@ -7,6 +7,7 @@
 
 #include "core/Panel.h"
 #include "core/PanelRoles.h"
+#include "core/ToolTable.h"
 #include "ui/frmCanvas.h"
 
 namespace qp {
@@ -260,8 +261,9 @@ void ApplyModeEntry(Session& s) {
   }
 }
 
-void OpenTransparencyTool(Session&) {
-  // The Transparency Tool's window opens here, modally over the main window, once it exists.
+void OpenTransparencyTool(Session& s) {
+  // The window belongs to a higher layer; the mode's tool opens it.
+  if (const auto& enter = s.tools.at(26).enter) enter(s);
 }
 
 void ShowTextSample(Session&) {

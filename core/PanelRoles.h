@@ -26,8 +26,8 @@ void ckVal2_Click(Session& s);
 void ApplyModeEntry(Session& s);
 
 // Transparent Mode opens the Transparency Tool's window over the main one, so that the user
-// prepares a picture first. The window is not part of the program yet; until it is, entering the
-// mode leaves the main window as it is.
+// prepares a picture first. The window lives in a higher layer: Transparent Mode's entry hook in
+// the tool table opens it.
 void OpenTransparencyTool(Session& s);
 // 3D Text draws its sample on the pixel surface at entry; the text tools fill this in.
 void ShowTextSample(Session& s);

@@ -23,6 +23,8 @@ struct ToolHooks {
   PanelHook ckValClick;
   PanelHook ckVal2Click;
   std::array<PanelHook, 5> vValChange;  // vVal1 .. vVal5
+  // Runs last when the mode is entered: Transparent Mode opens the Transparency Tool's window here.
+  PanelHook enter;
 };
 
 class ToolTable {

@@ -45,6 +45,8 @@ QImage blueScreenImage(Session& s) { return s.windows->blend.pT1.Picture; }
 
 const SaveKind kSaveKinds[] = {
     {FileMode::SaveImage, canvasImage, true},
+    // The Transparency Tool's working picture, when the session has that window.
+    {FileMode::SaveMask, [](Session& s) { return s.windows ? s.windows->blue.pBlu.Picture.get() : QImage(); }, false},
     {FileMode::SaveSelection, selectionImage, false},
     {FileMode::SaveTiled, tiledImage, false},
     {FileMode::SaveStretched, stretchedImage, false},

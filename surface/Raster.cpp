@@ -138,6 +138,31 @@ QRect stretchCopy(QImage& dst, double dx, double dy, double dw, double dh, const
   if (source.format() != QImage::Format_RGB32 && source.format() != QImage::Format_ARGB32)
     source = source.convertToFormat(QImage::Format_RGB32);
 
+  // One to one, on whole pixels and wholly inside the source: each row is a straight run, copied
+  // without a table of columns (a stamp, a tile, a floating picture set down).
+  if (dw == sw && dh == sh && dw > 0 && dh > 0 && dx == std::floor(dx) && dy == std::floor(dy) &&
+      sx == std::floor(sx) && sy == std::floor(sy) && sx + (x0 - dx) >= 0 && sy + (y0 - dy) >= 0 &&
+      sx + (x1 - dx) < source.width() && sy + (y1 - dy) < source.height()) {
+    const int ox = static_cast<int>(sx - dx), oy = static_cast<int>(sy - dy);
+    const std::uint32_t keyPixel = key ? (*key & 0xFFFFFFu) : 0;
+    uchar* base = dst.bits();
+    const qsizetype pitch = dst.bytesPerLine();
+    for (int y = y0; y <= y1; ++y) {
+      const auto* in = reinterpret_cast<const std::uint32_t*>(source.constScanLine(y + oy)) + (x0 + ox);
+      auto* out = reinterpret_cast<std::uint32_t*>(base + y * pitch) + x0;
+      const int n = x1 - x0 + 1;
+      if (key) {
+        for (int i = 0; i < n; ++i) {
+          const std::uint32_t p = in[i];
+          if ((p & 0xFFFFFFu) != keyPixel) out[i] = p | 0xFF000000u;
+        }
+      } else {
+        for (int i = 0; i < n; ++i) out[i] = in[i] | 0xFF000000u;
+      }
+    }
+    return QRect(x0, y0, x1 - x0 + 1, y1 - y0 + 1);
+  }
+
   std::vector<int> columns(static_cast<size_t>(x1 - x0 + 1));
   for (int x = x0; x <= x1; ++x)
     columns[static_cast<size_t>(x - x0)] = sampleAt(x, dx, dw, sx, sw, source.width());

@@ -1,6 +1,7 @@
 #pragma once
 // The program's windows beside the main one. Each is built once and shown when asked for; frmStash
 // is never shown.
+#include "ui/frmBlue.h"
 #include "ui/frmFile.h"
 #include "ui/frmLO.h"
 #include "ui/frmStash.h"
@@ -19,6 +20,7 @@ struct Windows {
   frmTile tile{stash.runtime()};
   frmBlend blend{stash.runtime()};
   frmStretch stretch{stash.runtime()};
+  frmBlue blue{stash.runtime()};  // the Transparency Tool
 };
 
 }  // namespace qp
