@@ -16,5 +16,7 @@ void wireEditCommands(Session& s);
 // The file window, the Explorer panel, the File menu's Open and Save, drops on the canvas and the
 // layout preview.
 void wireFiles(Session& s);
+// The AirBrush's timer and the pixel surface's mouse events.
+void wireLineTools(Session& s);
 
 }  // namespace qp

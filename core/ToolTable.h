@@ -23,6 +23,11 @@ struct ToolHooks {
   PanelHook ckValClick;
   PanelHook ckVal2Click;
   std::array<PanelHook, 5> vValChange;  // vVal1 .. vVal5
+  // The same three events on the pixel surface pPix, for the modes that paint there. pixMove
+  // comes for every move, pressed or not; the tool looks at the button.
+  StrokeHook pixPress;
+  StrokeHook pixMove;
+  StrokeHook pixRelease;
 };
 
 class ToolTable {
