@@ -138,6 +138,7 @@ void wireCanvas(Session& s, const std::function<void()>& quit) {
   wireImageStretcher(s);
   wireSelection(s);
   wireTransparencyTool(s);
+  wireLineTools(s);
 }
 
 }  // namespace qp

@@ -25,5 +25,7 @@ void wireImageStretcher(Session& s);
 void wireSelection(Session& s);
 // The Transparency Tool's window.
 void wireTransparencyTool(Session& s);
+// The AirBrush's timer and the pixel surface's mouse events.
+void wireLineTools(Session& s);
 
 }  // namespace qp

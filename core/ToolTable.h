@@ -25,6 +25,11 @@ struct ToolHooks {
   std::array<PanelHook, 5> vValChange;  // vVal1 .. vVal5
   // Runs last when the mode is entered: Transparent Mode opens the Transparency Tool's window here.
   PanelHook enter;
+  // The same three events on the pixel surface pPix, for the modes that paint there. pixMove
+  // comes for every move, pressed or not; the tool looks at the button.
+  StrokeHook pixPress;
+  StrokeHook pixMove;
+  StrokeHook pixRelease;
 };
 
 class ToolTable {

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "surface/Fill.h"
 #include "surface/PictureBox.h"
 #include "surface/Raster.h"
 
@@ -25,8 +26,8 @@ Qt::BrushStyle brushFor(int fillStyle) {
     case 0: return Qt::SolidPattern;
     case 2: return Qt::HorPattern;
     case 3: return Qt::VerPattern;
-    case 4: return Qt::BDiagPattern;
-    case 5: return Qt::FDiagPattern;
+    case 4: return Qt::FDiagPattern;  // "\", as the spans draw it
+    case 5: return Qt::BDiagPattern;  // "/"
     case 6: return Qt::CrossPattern;
     case 7: return Qt::DiagCrossPattern;
     default: return Qt::NoBrush;
@@ -50,6 +51,25 @@ QPen penFor(QColor colour, int width, int style) {
 }
 
 QColor qcolour(Colour c) { return QColor::fromRgb(raster::toPixel(c)); }
+
+// The inside of the ellipse around the pixel (cx, cy), row by row through the fill style: the
+// pixels whose centres lie within the half-axes. Our own spans rather than a painter's brush, so
+// that the hatches stand on the bitmap's grid and a large fill costs no more than its rows.
+QRect fillEllipse(QImage& img, Colour colour, int mode, int fillStyle, double cx, double cy, double rx,
+                  double ry) {
+  raster::PixelWriter out(img, colour, mode);
+  const int top = std::max(0, static_cast<int>(std::ceil(cy - ry)));
+  const int bottom = std::min(img.height() - 1, static_cast<int>(std::floor(cy + ry)));
+  for (int y = top; y <= bottom; ++y) {
+    const double dy = y - cy;
+    const double t = ry > 0 ? 1 - (dy / ry) * (dy / ry) : 1;
+    if (t < 0) continue;
+    const double half = rx * std::sqrt(t);
+    raster::fillSpan(out, y, static_cast<int>(std::ceil(cx - half)), static_cast<int>(std::floor(cx + half)),
+                     fillStyle);
+  }
+  return out.touched();
+}
 
 }  // namespace
 
@@ -76,6 +96,10 @@ void PictureBox::Circle(Single x, Single y, Single radius, std::optional<Colour>
     // Whole pixels are pixel centres, as for Line and PSet.
     const QPointF centre(roundHalfEven(cx) + 0.5, roundHalfEven(cy) + 0.5);
     const QRectF box(centre.x() - rx, centre.y() - ry, 2 * rx, 2 * ry);
+    const bool whole = !start && !end;
+    QRect filled;
+    if (whole && raster::fills(FillStyle))
+      filled = fillEllipse(img, FillColor, mode, FillStyle, roundHalfEven(cx), roundHalfEven(cy), rx, ry);
 
     QPainter p(&img);
     p.setRenderHint(QPainter::Antialiasing, false);
@@ -83,8 +107,8 @@ void PictureBox::Circle(Single x, Single y, Single radius, std::optional<Colour>
     p.setPen(penFor(qcolour(colour.value_or(ForeColor)), width, DrawStyle));
     const QBrush fill(qcolour(FillColor), brushFor(FillStyle));
 
-    if (!start && !end) {
-      p.setBrush(fill);
+    if (whole) {
+      p.setBrush(Qt::NoBrush);  // the inside is already filled
       p.drawEllipse(box);
     } else {
       const double s = finiteOrRaise(start.value_or(0.0));
@@ -105,8 +129,8 @@ void PictureBox::Circle(Single x, Single y, Single radius, std::optional<Colour>
       p.drawPath(path);
     }
     p.end();
-    const QRect touched = box.adjusted(-width - 2, -width - 2, width + 2, width + 2).toAlignedRect() &
-                          img.rect();
+    const QRect touched = (box.adjusted(-width - 2, -width - 2, width + 2, width + 2).toAlignedRect() &
+                           img.rect()) | filled;
     if (mode != 13) raster::restoreAlpha(img, touched);
     markDirty(touched);
   }

@@ -2,9 +2,13 @@
 
 #include "core/ToolTable.h"
 #include "tools/PaintWithPix.h"
+#include "tools/Freehand.h"
+#include "tools/Lines.h"
+#include "tools/Mirrors.h"
 #include "tools/Pencil.h"
 #include "tools/Selection.h"
 #include "tools/ShadowDraw.h"
+#include "tools/Shapes.h"
 
 namespace qp {
 
@@ -16,6 +20,16 @@ void registerTools(ToolTable& table) {
   table.set(19, selectAndCopyHooks());
   table.set(22, floatingPasteHooks());
   table.set(26, transparentModeHooks());
+  table.set(1, singleLineHooks());
+  table.set(2, simpleShapesHooks());
+  table.set(3, airBrushHooks());
+  table.set(5, mirrorLinesHooks());
+  table.set(6, eraserHooks());
+  table.set(10, crazyLinezHooks());
+  table.set(15, floodFillHooks());
+  table.set(23, crazyPencilHooks());
+  table.set(24, mirrorDrawHooks());
+  table.set(30, sawToothHooks());
 }
 
 }  // namespace qp

@@ -54,6 +54,7 @@ CanvasArea::CanvasArea(Form& f)
   surface(pSpire, 0, 0, 1335, 1335, 1, false, false, 0x808080);
   surface(pPix, 0, 0, 765, 900, 3, true, false, 0x404040);
   pPix.OLEDropEnabled = true;
+  pPix.FillStyle = 0;  // the flood fill paints solid in FillColor
   // The canvas, its twin and the holders take the size of the picture they are given.
   for (PictureBox* p : {&PicPaint, &pPix, &PicUndo, &pStash, &pTemp}) p->AutoSize = true;
   surface(pPX, 0, 0, 33, 33, 3, false, false, 0xE0E0E0);  // 495 twips, in pPix's pixels

@@ -31,6 +31,8 @@ struct CanvasVars {
   Integer PointerY = 0;
   Integer DownX = 0, DownY = 0;              // press position, rounded twips
   Integer DownButtonX = 0, DownButtonY = 0;  // press position in pixels
+  Integer ShapeRadius = 0;                   // radius of the last circle of Simple Shapes
+  Integer CanvasGradDir = 0;                 // gradient direction: 0 down the box, -1 across it
 };
 
 }  // namespace qp

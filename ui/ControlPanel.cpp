@@ -126,6 +126,8 @@ ControlPanel::ControlPanel(Form& f, Frame& strip)
   place(ckHoriz, 12795, 60, 640, 210);
   ckHoriz.Caption = "Horiz";
   place(Shadow(9), 12765, 45, 680, 240);
+  ckVert.Value = 1;  // both mirrors are on until the user clears them
+  ckHoriz.Value = 1;
   for (int i = 0; i <= 1; ++i) {
     OptionButton& o = opVert.add(i, &f, &strip, QString("opVert"));
     place(o, 12120 + i * 675, 330, 640, 210);

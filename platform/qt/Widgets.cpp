@@ -3,6 +3,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <algorithm>
+#include <cmath>
 
 #include "surface/PictureBox.h"
 
@@ -81,18 +82,27 @@ LineWidget::LineWidget(Line& c, QWidget* parent) : QWidget(parent), c_(c) {
   setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
+QPointF LineWidget::toPixels(Single x, Single y) const {
+  // On a picture box the ends are in its present scale, which a stroke may have stretched.
+  if (const auto* pic = dynamic_cast<const PictureBox*>(c_.parent())) {
+    const double px = pic->toPixelX(x), py = pic->toPixelY(y);
+    if (std::isfinite(px) && std::isfinite(py)) return QPointF(std::clamp(px, -1e6, 1e6), std::clamp(py, -1e6, 1e6));
+  }
+  return QPointF(x / kTwipsPerPixel, y / kTwipsPerPixel);
+}
+
 QRect LineWidget::box() const {
   const int pad = std::max(1, c_.BorderWidth.get());
-  const QPointF a(c_.X1 / kTwipsPerPixel, c_.Y1 / kTwipsPerPixel);
-  const QPointF b(c_.X2 / kTwipsPerPixel, c_.Y2 / kTwipsPerPixel);
+  const QPointF a = toPixels(c_.X1, c_.Y1);
+  const QPointF b = toPixels(c_.X2, c_.Y2);
   return QRectF(a, b).normalized().toAlignedRect().adjusted(-pad, -pad, pad + 1, pad + 1);
 }
 
 void LineWidget::paintEvent(QPaintEvent*) {
   QPainter p(this);
   const QPoint o = box().topLeft();
-  const QPointF a = QPointF(c_.X1 / kTwipsPerPixel, c_.Y1 / kTwipsPerPixel) - o;
-  const QPointF b = QPointF(c_.X2 / kTwipsPerPixel, c_.Y2 / kTwipsPerPixel) - o;
+  const QPointF a = toPixels(c_.X1, c_.Y1) - o;
+  const QPointF b = toPixels(c_.X2, c_.Y2) - o;
   p.setPen(QPen(toQColor(c_.BorderColor), std::max(1, c_.BorderWidth.get()), penStyleFor(c_.BorderStyle)));
   p.drawLine(a, b);
 }

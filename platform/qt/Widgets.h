@@ -46,6 +46,7 @@ class LineWidget : public QWidget {
   void paintEvent(QPaintEvent*) override;
 
  private:
+  QPointF toPixels(Single x, Single y) const;
   Line& c_;
 };
 

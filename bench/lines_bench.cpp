@@ -1,0 +1,221 @@
+// The mirrors, the spray and the filled shapes on a 4096 x 4096 canvas, each beside the plain work
+// it stands for, in the same run: a Mirrors N More move event beside the bare Line calls it makes,
+// an AirBrush tick beside its bare PSet, a filled circle of radius 1,000 (solid and hatched) beside
+// QPainter's drawEllipse with a brush, and a hatched fill of the whole canvas beside a canvas copy.
+// The table at the end gives each as a multiple of its reference, in CPU time.
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QPainter>
+#include <cmath>
+#include <cstdio>
+#include <cstring>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "app/Program.h"
+#include "platform/Headless.h"
+#include "platform/Memory.h"
+#include "tools/Freehand.h"
+
+namespace {
+
+constexpr int kSide = 4096;
+constexpr int kMoves = 1000;
+
+// A zigzag of 100-pixel segments down the left half of the canvas, in twips.
+qp::Single px(int i) { return static_cast<qp::Single>((200 + (i % 2) * 100) * 15); }
+qp::Single py(int i) { return static_cast<qp::Single>((100 + (i % 1000) * 3) * 15); }
+
+struct Session {
+  qp::HeadlessRuntime headless;
+  std::unique_ptr<qp::Program> program;
+  explicit Session(qp::Menu qp::frmCanvas::*mode) {
+    program = std::make_unique<qp::Program>(headless.rt());
+    program->start();
+    (program->f.*mode).raiseClick();
+    program->f.vColmode.Value = 0;
+    program->m.CurrentFile = "bench.bmp";  // a titled canvas keeps its own size
+    program->f.PicPaint.Width = kSide * 15;
+    program->f.PicPaint.Height = kSide * 15;
+    program->f.vPencil.Value = 1;
+  }
+  qp::PictureBox& pic() { return program->f.PicPaint; }
+};
+
+// ---- Mirrors N More: the main segment and both mirrors with the centre copy twice ----
+
+void BM_MirrorMove(benchmark::State& state) {
+  Session s(&qp::frmCanvas::mGpen);
+  s.program->f.ckVal2.Value = 1;  // freehand: the segments chain
+  auto& pic = s.pic();
+  for (auto _ : state) {
+    state.PauseTiming();
+    pic.raiseMouseDown(1, 0, px(0), py(0));
+    state.ResumeTiming();
+    for (int i = 1; i <= kMoves; ++i) pic.raiseMouseMove(1, 0, px(i), py(i));
+    state.PauseTiming();
+    pic.raiseMouseUp(1, 0, px(kMoves), py(kMoves));
+    state.ResumeTiming();
+  }
+  state.SetItemsProcessed(state.iterations() * kMoves);
+}
+BENCHMARK(BM_MirrorMove)->Unit(benchmark::kMillisecond);
+
+void BM_RefMirrorLines(benchmark::State& state) {
+  Session s(&qp::frmCanvas::mGpen);
+  auto& pic = s.pic();
+  pic.DrawWidth = 1;
+  const qp::Single W = kSide * 15, H = kSide * 15;
+  for (auto _ : state) {
+    for (int i = 1; i <= kMoves; ++i) {
+      const qp::Single x0 = px(i - 1), y0 = py(i - 1), x1 = px(i), y1 = py(i);
+      pic.Line(x0, y0, x1, y1, 0xFFFFFF);
+      pic.Line(W - x0, y0, W - x1, y1, 0xFFFFFF);
+      pic.Line(W - x0, H - y0, W - x1, W - y1, 0xFFFFFF);
+      pic.Line(x0, H - y0, x1, W - y1, 0xFFFFFF);
+      pic.Line(W - x0, H - y0, W - x1, W - y1, 0xFFFFFF);
+    }
+  }
+  state.SetItemsProcessed(state.iterations() * kMoves);
+}
+BENCHMARK(BM_RefMirrorLines)->Unit(benchmark::kMillisecond);
+
+// ---- AirBrush: ticks at the largest spread, beside PSets at points of the same spread ----
+
+constexpr int kTicks = 10000;
+
+void BM_AirTick(benchmark::State& state) {
+  Session s(&qp::frmCanvas::mAir);
+  s.program->f.vVal1.Value = 160;
+  s.program->m.LastX = kSide * 15 / 2;
+  s.program->m.LastY = kSide * 15 / 2;
+  for (auto _ : state)
+    for (int i = 0; i < kTicks; ++i) qp::tAir_Timer(s.program->s);
+  state.SetItemsProcessed(state.iterations() * kTicks);
+}
+BENCHMARK(BM_AirTick)->Unit(benchmark::kMillisecond);
+
+void BM_RefAirPSet(benchmark::State& state) {
+  Session s(&qp::frmCanvas::mAir);
+  auto& pic = s.pic();
+  std::vector<QPointF> points;
+  for (int i = 0; i < kTicks; ++i) {
+    const double d = (i % 161) * 18.0, a = i * 0.7;
+    points.emplace_back(kSide * 15 / 2 + d * std::cos(a), kSide * 15 / 2 - d * std::sin(a));
+  }
+  for (auto _ : state)
+    for (const QPointF& p : points) pic.PSet(static_cast<qp::Single>(p.x()), static_cast<qp::Single>(p.y()), 0xFFFFFF);
+  state.SetItemsProcessed(state.iterations() * kTicks);
+}
+BENCHMARK(BM_RefAirPSet)->Unit(benchmark::kMillisecond);
+
+// ---- filled circles on a picture box in pixels ----
+
+struct Canvas {
+  qp::HeadlessRuntime headless;
+  qp::Form form{headless.rt(), "frmBench"};
+  qp::PictureBox box{&form, nullptr, "pBench"};
+  Canvas() {
+    box.BackColor = 0x000000;
+    box.Width = kSide * 15.0f;
+    box.Height = kSide * 15.0f;
+    box.ScaleMode = 3;
+    box.FillColor = 0x00FF00;
+  }
+};
+
+Canvas& canvas() {
+  static Canvas c;
+  return c;
+}
+
+// Range: the fill style (0 solid, 7 diagonal cross).
+void BM_FilledCircle(benchmark::State& state) {
+  qp::PictureBox& b = canvas().box;
+  b.FillStyle = static_cast<int>(state.range(0));
+  for (auto _ : state) b.Circle(2048, 2048, 1000, 0xFFFFFF);
+}
+BENCHMARK(BM_FilledCircle)->Arg(0)->Arg(2)->Arg(7)->Unit(benchmark::kMillisecond);
+
+void BM_RefDrawEllipseBrush(benchmark::State& state) {
+  static QImage img = [] {
+    QImage i(kSide, kSide, QImage::Format_RGB32);
+    i.fill(Qt::black);
+    return i;
+  }();
+  for (auto _ : state) {
+    QPainter p(&img);
+    p.setPen(Qt::white);
+    p.setBrush(Qt::green);
+    p.drawEllipse(QPointF(2048.5, 2048.5), 1000, 1000);
+  }
+}
+BENCHMARK(BM_RefDrawEllipseBrush)->Unit(benchmark::kMillisecond);
+
+// A circle round the whole canvas: every pixel is inside it.
+void BM_HatchedCanvas(benchmark::State& state) {
+  qp::PictureBox& b = canvas().box;
+  b.FillStyle = static_cast<int>(state.range(0));
+  for (auto _ : state) b.Circle(2048, 2048, 2900, 0xFFFFFF);
+}
+BENCHMARK(BM_HatchedCanvas)->Arg(2)->Arg(6)->Arg(7)->Unit(benchmark::kMillisecond);
+
+void BM_RefCanvasCopy(benchmark::State& state) {
+  QImage from(kSide, kSide, QImage::Format_RGB32), to(kSide, kSide, QImage::Format_RGB32);
+  from.fill(Qt::black);
+  to.fill(Qt::black);
+  for (auto _ : state) {
+    std::memcpy(to.bits(), from.constBits(), static_cast<size_t>(from.sizeInBytes()));
+    benchmark::DoNotOptimize(to.bits());
+  }
+}
+BENCHMARK(BM_RefCanvasCopy)->Unit(benchmark::kMillisecond);
+
+// ---- the summary ----
+
+class Collector : public benchmark::ConsoleReporter {
+ public:
+  void ReportRuns(const std::vector<Run>& runs) override {
+    for (const Run& r : runs)
+      if (!r.error_occurred && r.run_type == Run::RT_Iteration)
+        ns[r.benchmark_name()] = r.GetAdjustedCPUTime() * (r.time_unit == benchmark::kMillisecond ? 1e6 : 1.0);
+    ConsoleReporter::ReportRuns(runs);
+  }
+  std::map<std::string, double> ns;
+};
+
+void summary(const Collector& c) {
+  const std::pair<const char*, const char*> pairs[] = {
+      {"BM_MirrorMove", "BM_RefMirrorLines"},
+      {"BM_AirTick", "BM_RefAirPSet"},
+      {"BM_FilledCircle/0", "BM_RefDrawEllipseBrush"},
+      {"BM_FilledCircle/2", "BM_RefDrawEllipseBrush"},
+      {"BM_FilledCircle/7", "BM_RefDrawEllipseBrush"},
+      {"BM_HatchedCanvas/2", "BM_RefCanvasCopy"},
+      {"BM_HatchedCanvas/6", "BM_RefCanvasCopy"},
+      {"BM_HatchedCanvas/7", "BM_RefCanvasCopy"},
+  };
+  std::printf("\n%-26s %14s   %-24s %14s %8s\n", "operation", "cpu time", "reference", "cpu time", "ratio");
+  for (const auto& [op, ref] : pairs) {
+    const auto a = c.ns.find(op), b = c.ns.find(ref);
+    if (a == c.ns.end() || b == c.ns.end()) continue;
+    std::printf("%-26s %11.0f ns   %-24s %11.0f ns %8.2f\n", op, a->second, ref, b->second, a->second / b->second);
+  }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  qp::keepPictureMemoryForReuse();  // as the program does
+  QApplication app(argc, argv);
+  benchmark::Initialize(&argc, argv);
+  Collector collector;
+  benchmark::RunSpecifiedBenchmarks(&collector);
+  summary(collector);
+  benchmark::Shutdown();
+  return 0;
+}

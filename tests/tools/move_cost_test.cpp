@@ -1,0 +1,60 @@
+// A move event of these tools draws in place and marks for the screen only what it drew: the
+// rubber-band modes nothing at all, the mirrors the union of their segments.
+#include "tools/ToolFixture.h"
+
+namespace qp::test {
+namespace {
+
+using MoveCost = ToolTest;
+
+TEST_F(MoveCost, AMoveMarksOnlyWhatItDrew) {
+  struct Case {
+    Menu frmCanvas::*mode;
+    QRect bound;  // pixels; empty: the move draws nothing on the picture
+  };
+  // Press at (100, 100), move to (200, 110) pixels, on a 600 x 600 canvas.
+  for (const Case& c : {Case{&frmCanvas::mGpen, QRect(90, 90, 420, 420)}, Case{&frmCanvas::mEr, QRect(185, 100, 30, 20)},
+                        Case{&frmCanvas::mSaw, QRect(95, 95, 125, 25)}, Case{&frmCanvas::mCrazyLn, QRect(95, 95, 110, 20)},
+                        Case{&frmCanvas::mSingle, QRect()}, Case{&frmCanvas::mSngBox, QRect()},
+                        Case{&frmCanvas::mMirLine, QRect()}, Case{&frmCanvas::mAir, QRect()}}) {
+    enter(f().*c.mode);
+    f().vPencil.Value = 4;
+    press(1500, 1500);
+    const uchar* bits = f().PicPaint.bitmap().constBits();
+    f().PicPaint.takeDirty();
+    move(3000, 1650);
+    const QRect dirty = f().PicPaint.takeDirty();
+    SCOPED_TRACE(f().lMode.Caption.get().toStdString());
+    EXPECT_EQ(f().PicPaint.bitmap().constBits(), bits);
+    if (c.bound.isEmpty()) {
+      EXPECT_TRUE(dirty.isEmpty());
+    } else {
+      EXPECT_FALSE(dirty.isEmpty());
+      EXPECT_TRUE(c.bound.contains(dirty)) << dirty.x() << "," << dirty.y() << " " << dirty.width() << "x" << dirty.height();
+    }
+    release(3000, 1650);
+  }
+}
+
+TEST_F(MoveCost, StrokesFarOutsideTheCanvasEndQuietly) {
+  for (Menu frmCanvas::*mode : {&frmCanvas::mGpen, &frmCanvas::mEr, &frmCanvas::mSaw, &frmCanvas::mCrazyLn,
+                                &frmCanvas::mSingle, &frmCanvas::mSngBox, &frmCanvas::mMirLine, &frmCanvas::mAir,
+                                &frmCanvas::mCrzyPen}) {
+    for (int equation : {13, 17, 21}) {
+      enter(f().*mode);
+      f().CrazyEquation = equation;
+      f().vVal3.Value = equation == 13 ? 2 : 3;  // circles, box runs
+      press(1500, 1500);
+      move(-40000, 9e8f);
+      move(32760, 32760);
+      move(1500, 1500);
+      headless.loop.advance(50);
+      release(1e12f, 30000);  // far off to the right and below
+      EXPECT_EQ(f().PicPaint.ScaleWidth, f().PicPaint.Width);
+      EXPECT_FALSE(f().tAir.Enabled);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace qp::test

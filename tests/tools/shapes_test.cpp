@@ -1,0 +1,118 @@
+// Simple Shapes on a 600 x 600 canvas (9000 twips a side), and FloodFill on the pixel surface.
+#include "tools/ToolFixture.h"
+
+namespace qp::test {
+namespace {
+
+class ShapesTest : public ToolTest {
+ protected:
+  void shape(int kind, int fill = 1) {
+    enter(f().mSngBox);
+    f().vVal3.Value = kind;
+    f().vVal2.Value = fill;
+  }
+};
+
+TEST_F(ShapesTest, RectanglesAreOutlinesWithTheirCopiesUnderneath) {
+  struct Case {
+    int shadow, third;
+    Colour atO, at2O;  // on the bottom edge's copies, 20 and 40 pixels further
+  };
+  for (const Case& c : {Case{0, 0, kBlack, kBlack}, Case{1, 0, kGray, kBlack}, Case{0, 1, kBlack, kBlue},
+                        Case{1, 1, kGray, kBlue}}) {
+    shape(0, 0);
+    f().ckVal.Value = c.shadow;
+    f().ckVal2.Value = c.third;
+    m().StepSize = 300;
+    // Dragged up and left: the same box as down and right.
+    stroke({{4500, 4500}, {3000, 3000}, {1500, 1500}});
+    SCOPED_TRACE(testing::Message() << c.shadow << c.third);
+    EXPECT_EQ(pixel(200, 300), kWhite);
+    EXPECT_EQ(pixel(200, 200), kBlack);  // a box is an outline whatever the fill
+    EXPECT_EQ(pixel(220, 320), c.atO);
+    EXPECT_EQ(pixel(240, 340), c.at2O);
+  }
+}
+
+TEST_F(ShapesTest, ADragUnderTwelvePixelsDrawsNothing) {
+  for (int kind : {0, 1, 2}) {
+    shape(kind, 0);
+    stroke({{1500, 1500}, {1500 + 165, 4500}});
+    EXPECT_EQ(count(kWhite), 0) << kind;
+    EXPECT_FALSE(f().DrawShape.Visible);
+    EXPECT_EQ(f().PicPaint.ScaleWidth, f().PicPaint.Width);  // the closing steps ran all the same
+  }
+}
+
+TEST_F(ShapesTest, CirclesTakeTheirAspectAndTheFillStyle) {
+  struct Case {
+    int fill;
+    Colour onGridRow, offGrid, onGridColumn;  // (300, 200), (300, 201), (304, 201)
+  };
+  for (const Case& c : {Case{0, kGray, kGray, kGray}, Case{1, kBlack, kBlack, kBlack},
+                        Case{2, kGray, kBlack, kBlack}, Case{3, kBlack, kBlack, kGray},
+                        Case{6, kGray, kBlack, kGray}}) {
+    shape(2, c.fill);
+    stroke({{1500, 1500}, {7500, 4500}});  // 400 x 200 pixels around (300, 200)
+    SCOPED_TRACE(c.fill);
+    EXPECT_EQ(pixel(300, 200), c.onGridRow);
+    EXPECT_EQ(pixel(300, 201), c.offGrid);
+    EXPECT_EQ(pixel(304, 201), c.onGridColumn);
+    EXPECT_EQ(pixel(300, 100), kWhite);  // the outline, at half the height
+    EXPECT_EQ(pixel(100, 200), kWhite);
+    EXPECT_EQ(pixel(300, 90), kBlack);
+  }
+}
+
+TEST_F(ShapesTest, BoxGradientRunsFromTheForeToTheBackColour) {
+  shape(1);
+  f().lForclr.BackColor = 0x0000FF;
+  m().ForeClr = 0x0000FF;
+  m().BackClr = 0xFF0000;
+  f().CanvasGradDir = -1;  // bands across
+  stroke({{1500, 1500}, {4500, 4500}});
+  EXPECT_EQ(pixel(100, 200), 0x0000FF);
+  const Colour mid = pixel(200, 200);
+  EXPECT_NEAR(mid & 0xFF, 0x80, 2);
+  EXPECT_NEAR((mid >> 16) & 0xFF, 0x7F, 2);
+  EXPECT_EQ(pixel(300, 200), 0xFF0000);
+}
+
+TEST_F(ShapesTest, BoxRunsShareThePressCornerOrChain) {
+  shape(3);
+  stroke({{1500, 1500}, {3000, 3000}, {4500, 2250}});
+  EXPECT_EQ(pixel(200, 150), kWhite);  // first box's corner
+  EXPECT_EQ(pixel(250, 100), kWhite);  // second box's top edge, from the press corner
+  shape(3);
+  f().ckVal.Value = 1;
+  f().ckVal2.Value = 1;
+  stroke({{1500, 1500}, {3000, 3000}, {4500, 2250}});
+  EXPECT_EQ(pixel(150, 150), kWhite);  // filled
+  EXPECT_EQ(pixel(250, 175), kWhite);  // chained from the first box's corner
+  EXPECT_EQ(pixel(250, 110), kBlack);
+}
+
+TEST_F(ToolTest, FloodFillFillsTheRegionOnThePixelSurfaceAndTheCanvasTakesIt) {
+  QImage pic(300, 200, QImage::Format_RGB32);
+  pic.fill(Qt::black);
+  for (int y = 0; y < 200; ++y) pic.setPixel(150, y, 0xFFFFFFFF);  // a wall
+  f().PicPaint.Picture = pic;
+  choose(f().mFF);
+  f().vColmode.Value = 0;
+  m().ForeClr = 0x00FF00;
+  f().pPix.raiseMouseDown(vbLeftButton, 0, 10, 10);
+  f().pPix.raiseMouseUp(vbLeftButton, 0, 10, 10);
+  EXPECT_EQ(GetPixel(f().pPix, 149, 199), 0x00FF00);
+  EXPECT_EQ(GetPixel(f().pPix, 151, 0), kBlack);
+  f().pPix.raiseMouseDown(vbRightButton, 0, 10, 10);
+  f().pPix.raiseMouseUp(vbRightButton, 0, 10, 10);  // undo
+  EXPECT_EQ(GetPixel(f().pPix, 10, 10), kBlack);
+  f().pPix.raiseMouseDown(vbLeftButton, 0, 200, 10);
+  f().pPix.raiseMouseUp(vbLeftButton, 0, 200, 10);
+  choose(f().mPencil);
+  EXPECT_EQ(pixel(200, 100), 0x00FF00);
+  EXPECT_EQ(pixel(10, 10), kBlack);
+}
+
+}  // namespace
+}  // namespace qp::test
