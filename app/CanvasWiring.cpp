@@ -133,6 +133,7 @@ void wireCanvas(Session& s, const std::function<void()>& quit) {
   wireKeyboard(s, quit);
   wireAutoDraw(s);
   wireFiles(s);
+  wireSpirals(s, quit);
 }
 
 }  // namespace qp

@@ -16,5 +16,8 @@ void wireEditCommands(Session& s);
 // The file window, the Explorer panel, the File menu's Open and Save, drops on the canvas and the
 // layout preview.
 void wireFiles(Session& s);
+// The spirals: GeoSpiralz's button and floating result, the pixel surface of Freehand Spiralz and
+// its MiniSpirals box, and the full-screen window.
+void wireSpirals(Session& s, const std::function<void()>& quit);
 
 }  // namespace qp

@@ -101,6 +101,7 @@ int main(int argc, char** argv) {
   // The other windows each have a view of their own; each shows itself when its form does.
   qp::FormView fileView(program.w.file);
   qp::FormView layoutView(program.w.lo);
+  qp::FormView fullView(program.w.full);
   program.start();
   view.sync();
   view.window().show();

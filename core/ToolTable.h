@@ -23,6 +23,16 @@ struct ToolHooks {
   PanelHook ckValClick;
   PanelHook ckVal2Click;
   std::array<PanelHook, 5> vValChange;  // vVal1 .. vVal5
+  // The pixel surface pPix, for the modes that paint in pixels: left press and release after the
+  // surface's common steps, and every move whatever the button (the tool looks at it).
+  StrokeHook pixPress;
+  StrokeHook pixMove;
+  StrokeHook pixRelease;
+  // The floating result pSpire: a press on it, and a release on it.
+  StrokeHook floatPress;
+  StrokeHook floatRelease;
+  PanelHook cCanClick;      // the panel's command button
+  PanelHook fullScreenKey;  // F9 on the main window
 };
 
 class ToolTable {

@@ -76,12 +76,14 @@ struct ShownSession::Parts {
 ShownSession::ShownSession(std::uint32_t seed) : parts_(std::make_unique<Parts>(seed)) {
   program_ = std::make_unique<Program>(parts_->runtime, [this] { quit_ = true; });
   view_ = std::make_unique<FormView>(program_->f);
+  fullView_ = std::make_unique<FormView>(program_->w.full);
   program_->start();
   view_->sync();
   view_->window().show();
 }
 
 ShownSession::~ShownSession() {
+  fullView_.reset();
   view_.reset();
   program_.reset();
 }

@@ -77,6 +77,7 @@ class ShownSession : public Host {
   bool quit_ = false;
   std::unique_ptr<Program> program_;
   std::unique_ptr<FormView> view_;
+  std::unique_ptr<FormView> fullView_;  // the full-screen spirals, shown when their form is
 };
 
 // A picture of the windows as they are shown, side by side.

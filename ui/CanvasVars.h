@@ -31,6 +31,11 @@ struct CanvasVars {
   Integer PointerY = 0;
   Integer DownX = 0, DownY = 0;              // press position, rounded twips
   Integer DownButtonX = 0, DownButtonY = 0;  // press position in pixels
+
+  // The spirals. A GeoSpiralz drawing waits on the event loop between its lines, so other events
+  // come in while it runs; this says one is under way. The freehand spiral's remembered ring.
+  bool SpiralDrawing = false;
+  Single PixLastRadius = 0, PixLastAngle = 0;
 };
 
 }  // namespace qp
