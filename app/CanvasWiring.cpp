@@ -139,6 +139,7 @@ void wireCanvas(Session& s, const std::function<void()>& quit) {
   wireSelection(s);
   wireTransparencyTool(s);
   wireLineTools(s);
+  wireSpirals(s, quit);
 }
 
 }  // namespace qp

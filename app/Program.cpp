@@ -1,6 +1,7 @@
 #include "app/Program.h"
 
 #include "app/Wiring.h"
+#include "platform/EventLoop.h"
 #include "tools/Tools.h"
 
 namespace qp {
@@ -10,6 +11,7 @@ Program::Program(Runtime& rt, std::function<void()> quit)
   registerTools(tools);
   wireCanvas(s, [this] {
     quitRequested_ = true;
+    s.rt.loop.close();  // a drawing that waits on the loop stops there
     if (quit_) quit_();
   });
 }

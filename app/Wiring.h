@@ -27,5 +27,8 @@ void wireSelection(Session& s);
 void wireTransparencyTool(Session& s);
 // The AirBrush's timer and the pixel surface's mouse events.
 void wireLineTools(Session& s);
+// The spirals: GeoSpiralz's button and floating result, the pixel surface of Freehand Spiralz and
+// its MiniSpirals box, and the full-screen window.
+void wireSpirals(Session& s, const std::function<void()>& quit);
 
 }  // namespace qp

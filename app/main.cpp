@@ -105,6 +105,7 @@ int main(int argc, char** argv) {
   qp::FormView blendView(program.w.blend);
   qp::FormView stretchView(program.w.stretch);
   qp::FormView blueView(program.w.blue);
+  qp::FormView fullView(program.w.full);
   program.start();
   view.sync();
   view.window().show();

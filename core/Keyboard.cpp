@@ -7,6 +7,7 @@
 #include "core/Help.h"
 #include "core/Grid.h"
 #include "core/Startup.h"
+#include "core/ToolTable.h"
 #include "core/Undo.h"
 #include "ui/frmCanvas.h"
 
@@ -19,8 +20,10 @@ namespace {
 void runMenuHandler(Menu& item) {
   if (item.Click) item.Click();
 }
-// The full-screen spirals (F9) need their own window: the key does nothing until it exists.
-void OpenFullScreenNotBuilt(Session&) {}
+// The full-screen spirals (F9) belong to the mode's tool.
+void runFullScreenKey(Session& s) {
+  if (const PanelHook& open = s.tools.at(s.m.PaintMode).fullScreenKey) open(s);
+}
 
 void showDrawWidth(frmCanvas& f, int width) { f.lPenVal.Caption = "Draw Width : " + QString::number(width); }
 
@@ -75,7 +78,7 @@ void textFreeKeys(Session& s, int code) {
   if (code >= vbKey1 && code <= vbKey7) ColourKey(s, code - vbKey1, true);
   if (code == vbKey8) ColourKey(s, 7, false);  // gray, which is no Colour Option
   if (code == vbKeyShift) jumpWidthTo(s, f.vMin.Value);
-  if (code == vbKeyF9 && s.m.PaintMode == 16) OpenFullScreenNotBuilt(s);
+  if (code == vbKeyF9 && s.m.PaintMode == 16) runFullScreenKey(s);
 }
 
 }  // namespace

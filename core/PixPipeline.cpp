@@ -4,6 +4,7 @@
 #include "core/PixPipeline.h"
 
 #include "core/Grid.h"
+#include "core/Keyboard.h"
 #include "core/ToolTable.h"
 #include "core/Undo.h"
 #include "ui/frmCanvas.h"
@@ -87,6 +88,27 @@ void pPix_MouseUp(Session& s, int Button, int, Single X, Single Y) {
   trap([&] { if (f.ckDcolz.Value == 1) f.tDclrz.Enabled = false; });
   trap([&] { f.lHelp.ForeColor = 0xC0C0C0; });
   trap([&] { f.lTell.Caption = ""; });
+}
+
+void PixSurface_KeyDown(Session& s, int KeyCode) {
+  frmCanvas& f = s.f;
+  trap([&] {
+    if (KeyCode == vbKeyUp || KeyCode == vbKeyRight) f.tPenUp.Enabled = true;
+    if (KeyCode == vbKeyLeft || KeyCode == vbKeyDown) f.tPenDwn.Enabled = true;
+  });
+}
+
+void PixSurface_KeyUp(Session& s, int) {
+  frmCanvas& f = s.f;
+  trap([&] {
+    f.lHelp.ForeColor = 0xC0C0C0;
+    f.lTell.Caption = "";
+    // With Hold the width keeps moving after the key is up, until it meets its limit.
+    if (f.ckHold.Value != 1) {
+      f.tPenUp.Enabled = false;
+      f.tPenDwn.Enabled = false;
+    }
+  });
 }
 
 }  // namespace qp

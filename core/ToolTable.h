@@ -30,6 +30,11 @@ struct ToolHooks {
   StrokeHook pixPress;
   StrokeHook pixMove;
   StrokeHook pixRelease;
+  // The floating result pSpire: a press on it, and a release on it.
+  StrokeHook floatPress;
+  StrokeHook floatRelease;
+  PanelHook cCanClick;      // the panel's command button
+  PanelHook fullScreenKey;  // F9 on the main window
 };
 
 class ToolTable {

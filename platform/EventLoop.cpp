@@ -74,6 +74,23 @@ void VirtualLoop::processEvents() {
   --depth_;
 }
 
+void EventLoop::waitUntil(std::int64_t until) {
+  while (now() < until && !closing()) processEvents();
+}
+
+void VirtualLoop::waitUntil(std::int64_t until) {
+  if (until <= now_) return;
+  if (depth_ >= kMaxNesting) {  // too deep to run anything more, but the wait still ends
+    now_ = until;
+    return;
+  }
+  ++depth_;
+  runPosted();
+  while (fireNextDue(until)) runPosted();
+  now_ = std::max(now_, until);
+  --depth_;
+}
+
 void VirtualLoop::advance(std::int64_t ms) {
   if (ms < 0) ms = 0;
   const std::int64_t target = now_ + ms;

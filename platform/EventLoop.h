@@ -23,6 +23,15 @@ class EventLoop {
   virtual void timerDestroyed(Timer* t) = 0;
   // Queues work to run on the loop after the present event.
   virtual void post(std::function<void()> fn) = 0;
+  // DoEvents until the clock reaches `until` (ms): the wait of a drawing that paces itself. Events
+  // and timers due meanwhile run in their order; a wait already past returns at once.
+  virtual void waitUntil(std::int64_t until);
+  // The program is ending: a long drawing that waits on the loop stops at its next wait.
+  void close() { closing_ = true; }
+  bool closing() const { return closing_; }
+
+ private:
+  bool closing_ = false;
 };
 
 // Timers fire in order of due time; a timer's next due time is counted from when it fired, as a
@@ -36,6 +45,8 @@ class VirtualLoop : public EventLoop {
   void timerChanged(Timer* t) override;
   void timerDestroyed(Timer* t) override;
   void post(std::function<void()> fn) override;
+  // Runs the clock to `until`, firing what falls due on the way, as the real wait would.
+  void waitUntil(std::int64_t until) override;
 
   // Moves the clock by ms, running every timer tick and posted task that falls due on the way.
   void advance(std::int64_t ms);

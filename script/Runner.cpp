@@ -19,7 +19,7 @@ Runner::Runner(Program& program, Runtime& rt, Host& host, QTextStream& out, QTex
 std::vector<Form*> Runner::forms() const {
   // Every window of the program that a script may name; new windows join this list.
   return {&p_.f, &p_.w.file, &p_.w.lo,
-          &p_.w.tile, &p_.w.blend, &p_.w.stretch, &p_.w.blue};
+          &p_.w.tile, &p_.w.blend, &p_.w.stretch, &p_.w.blue, &p_.w.full};
 }
 
 Control* Runner::resolve(const QString& path) const {

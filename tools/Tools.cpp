@@ -5,6 +5,9 @@
 #include "tools/Freehand.h"
 #include "tools/Lines.h"
 #include "tools/Mirrors.h"
+#include "tools/FreehandSpiral.h"
+#include "tools/FullScreen.h"
+#include "tools/GeoSpiralz.h"
 #include "tools/Pencil.h"
 #include "tools/Selection.h"
 #include "tools/ShadowDraw.h"
@@ -30,6 +33,11 @@ void registerTools(ToolTable& table) {
   table.set(23, crazyPencilHooks());
   table.set(24, mirrorDrawHooks());
   table.set(30, sawToothHooks());
+  table.set(12, geoSpiralzHooks());
+  ToolHooks freehand = freehandSpiralzHooks();
+  freehand.fullScreenKey = OpenFullScreen;  // F9
+  table.set(16, freehand);
+  table.set(28, miniSpiralsHooks());
 }
 
 }  // namespace qp

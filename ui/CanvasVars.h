@@ -33,6 +33,11 @@ struct CanvasVars {
   Integer DownButtonX = 0, DownButtonY = 0;  // press position in pixels
   Integer ShapeRadius = 0;                   // radius of the last circle of Simple Shapes
   Integer CanvasGradDir = 0;                 // gradient direction: 0 down the box, -1 across it
+
+  // The spirals. A GeoSpiralz drawing waits on the event loop between its lines, so other events
+  // come in while it runs; this says one is under way. The freehand spiral's remembered ring.
+  bool SpiralDrawing = false;
+  Single PixLastRadius = 0, PixLastAngle = 0;
 };
 
 }  // namespace qp

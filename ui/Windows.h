@@ -3,6 +3,7 @@
 // is never shown.
 #include "ui/frmBlue.h"
 #include "ui/frmFile.h"
+#include "ui/frmFull.h"
 #include "ui/frmLO.h"
 #include "ui/frmStash.h"
 #include "ui/frmBlend.h"
@@ -12,7 +13,7 @@
 namespace qp {
 
 struct Windows {
-  explicit Windows(Runtime& rt) : file(rt), lo(rt), stash(rt) {}
+  explicit Windows(Runtime& rt) : file(rt), lo(rt), stash(rt), full(rt) {}
   frmFile file;
   frmLO lo;
   frmStash stash;
@@ -21,6 +22,7 @@ struct Windows {
   frmBlend blend{stash.runtime()};
   frmStretch stretch{stash.runtime()};
   frmBlue blue{stash.runtime()};  // the Transparency Tool
+  frmFull full;  // the full-screen spirals
 };
 
 }  // namespace qp

@@ -3,6 +3,9 @@
 
 #include <QPalette>
 
+#include <QApplication>
+#include <QScreen>
+
 #include <QAbstractSlider>
 #include <QCheckBox>
 #include <QCursor>
@@ -365,7 +368,17 @@ void FormView::applyForm() {
   if (form_.MousePointer == 0) central_->unsetCursor();
   else central_->setCursor(cursorFor(form_));
   central_->setAcceptDrops(form_.OLEDropEnabled);
-  if (window_->isVisible() != form_.Visible.get()) window_->setVisible(form_.Visible);
+  if (window_->isVisible() != form_.Visible.get()) {
+    // A borderless maximized window covers the whole screen the program's window is on.
+    if (form_.Visible && form_.BorderStyle == 0 && form_.WindowState == 2) {
+      const QWidget* active = QApplication::activeWindow();
+      if (QScreen* screen = active ? active->screen() : QGuiApplication::primaryScreen())
+        window_->setGeometry(screen->geometry());
+      window_->showFullScreen();
+    } else {
+      window_->setVisible(form_.Visible);
+    }
+  }
 }
 
 }  // namespace qp

@@ -5,6 +5,7 @@
 #include <QFontDatabase>
 #include <QMessageBox>
 #include <QScreen>
+#include <QWidget>
 #include <algorithm>
 
 #include "platform/Errors.h"
@@ -25,6 +26,23 @@ void QtLoop::processEvents() {
   if (depth_ >= kMaxNesting) return;
   ++depth_;
   QCoreApplication::processEvents(QEventLoop::AllEvents);
+  --depth_;
+}
+
+void QtLoop::waitUntil(std::int64_t until) {
+  if (depth_ >= kMaxNesting) return;
+  ++depth_;
+  // Sleeps until an event comes or the wait is over: the input and repaints of the window get
+  // through while a drawing paces itself, and no core spins.
+  QTimer wake;
+  wake.setSingleShot(true);
+  wake.setTimerType(Qt::PreciseTimer);
+  while (!closing()) {
+    const std::int64_t left = until - now();
+    if (left <= 0) break;
+    wake.start(static_cast<int>(std::min<std::int64_t>(left, 1000)));
+    QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+  }
   --depth_;
 }
 
@@ -108,13 +126,21 @@ void QtClipboard::SetData(const QImage& picture) { QGuiApplication::clipboard()-
 
 QImage QtClipboard::GetData() const { return QGuiApplication::clipboard()->image(); }
 
+namespace {
+// The screen the program's window is on: the full-screen spirals cover that one.
+const QScreen* currentScreen() {
+  if (const QWidget* w = QApplication::activeWindow()) return w->screen();
+  return QGuiApplication::primaryScreen();
+}
+}  // namespace
+
 int QtScreen::Width() const {
-  const QScreen* s = QGuiApplication::primaryScreen();
+  const QScreen* s = currentScreen();
   return s ? s->size().width() * TwipsPerPixelX : 0;
 }
 
 int QtScreen::Height() const {
-  const QScreen* s = QGuiApplication::primaryScreen();
+  const QScreen* s = currentScreen();
   return s ? s->size().height() * TwipsPerPixelY : 0;
 }
 

@@ -21,6 +21,7 @@ class QtLoop : public EventLoop {
   void timerChanged(Timer* t) override;
   void timerDestroyed(Timer* t) override;
   void post(std::function<void()> fn) override;
+  void waitUntil(std::int64_t until) override;
 
  private:
   void fire(Timer* t);

@@ -1,0 +1,78 @@
+// The spirals' events: the panel's button and the floating result for GeoSpiralz, the pixel
+// surface and the MiniSpirals box for Freehand Spiralz, and the full-screen window.
+#include "app/Wiring.h"
+#include "color/ColourEngine.h"
+#include "core/PixPipeline.h"
+#include "core/ToolTable.h"
+#include "tools/FreehandSpiral.h"
+#include "tools/FullScreen.h"
+#include "tools/GeoSpiralz.h"
+#include "ui/Windows.h"
+#include "ui/frmCanvas.h"
+
+namespace qp {
+
+namespace {
+
+// The hook of the mode in use, looked up when the event comes, since the mode may have changed.
+template <class Hook>
+void runHook(Session& s, Hook ToolHooks::*hook, int Button, Single X, Single Y) {
+  if (const auto& h = s.tools.at(s.m.PaintMode).*hook) h(s, Button, X, Y);
+}
+
+void wireCanvasSpirals(Session& s) {
+  frmCanvas& f = s.f;
+  f.cCan.Click = [&s] {
+    if (const PanelHook& h = s.tools.at(s.m.PaintMode).cCanClick) h(s);
+  };
+  f.cCan.MouseMove = [&s](int, int, Single, Single) {
+    if (s.m.PaintMode == 12) cCan_MouseMoveSpiral(s);
+  };
+  f.ckVal.MouseMove = [&s](int, int, Single, Single) {
+    if (s.m.PaintMode == 16 || s.m.PaintMode == 28) ckVal_MouseMoveSpiral(s);
+  };
+  f.pSpire.MouseDown = [&s](int b, int, Single x, Single y) { runHook(s, &ToolHooks::floatPress, b, x, y); };
+  f.pSpire.MouseUp = [&s](int b, int, Single x, Single y) { runHook(s, &ToolHooks::floatRelease, b, x, y); };
+  f.pPix.MouseDown = [&s](int b, int sh, Single x, Single y) { pPix_MouseDown(s, b, sh, x, y); };
+  f.pPix.MouseMove = [&s](int b, int sh, Single x, Single y) { pPix_MouseMove(s, b, sh, x, y); };
+  f.pPix.MouseUp = [&s](int b, int sh, Single x, Single y) { pPix_MouseUp(s, b, sh, x, y); };
+  f.pPX.MouseDown = [&s](int b, int sh, Single x, Single y) { pPX_MouseDown(s, b, sh, x, y); };
+  f.pPX.MouseMove = [&s](int b, int sh, Single x, Single y) { pPX_MouseMove(s, b, sh, x, y); };
+  f.pPX.MouseUp = [&s](int b, int sh, Single x, Single y) { pPX_MouseUp(s, b, sh, x, y); };
+  // The arrow keys change the width on the spiral surfaces as they do on the canvas.
+  auto keyDown = [&s](int& code, int) {
+    if (s.m.PaintMode == 16 || s.m.PaintMode == 28) PixSurface_KeyDown(s, code);
+  };
+  auto keyUp = [&s](int& code, int) {
+    if (s.m.PaintMode == 16 || s.m.PaintMode == 28) PixSurface_KeyUp(s, code);
+  };
+  f.pPix.KeyDown = keyDown;
+  f.pPix.KeyUp = keyUp;
+  f.pPX.KeyDown = keyDown;
+  f.pPX.KeyUp = keyUp;
+}
+
+void wireFullScreen(Session& s, const std::function<void()>& quit) {
+  if (!s.windows) return;
+  frmFull& w = s.windows->full;
+  w.Load = [&s] { frmFull_Load(s); };
+  w.Resize = [&s] { frmFull_Resize(s); };
+  w.KeyDown = [&s, quit](int& code, int) { frmFull_KeyDown(s, code, quit); };
+  w.KeyUp = [&s](int& code, int) { frmFull_KeyUp(s, code); };
+  w.pPix.MouseDown = [&s](int b, int, Single x, Single y) { frmFull_pPix_MouseDown(s, b, x, y); };
+  w.pPix.MouseMove = [&s](int b, int, Single x, Single y) { frmFull_pPix_MouseMove(s, b, x, y); };
+  w.pPix.MouseUp = [&s](int b, int, Single x, Single y) { frmFull_pPix_MouseUp(s, b, x, y); };
+  w.tPenUp.Timer_ = [&s] { frmFull_tPenUp(s); };
+  w.tPenDwn.Timer_ = [&s] { frmFull_tPenDwn(s); };
+  w.tGrad.Timer_ = [&s] { frmFull_tGrad(s); };
+  w.tDclrz.Timer_ = [&s] { StepTransientColor(s); };
+}
+
+}  // namespace
+
+void wireSpirals(Session& s, const std::function<void()>& quit) {
+  wireCanvasSpirals(s);
+  wireFullScreen(s, quit);
+}
+
+}  // namespace qp
