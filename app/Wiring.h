@@ -16,5 +16,7 @@ void wireEditCommands(Session& s);
 // The file window, the Explorer panel, the File menu's Open and Save, drops on the canvas and the
 // layout preview.
 void wireFiles(Session& s);
+// The gradients' and spheres' own controls: the sphere timer and the ramp direction buttons.
+void wireGradients(Session& s);
 
 }  // namespace qp

@@ -23,6 +23,12 @@ struct ToolHooks {
   PanelHook ckValClick;
   PanelHook ckVal2Click;
   std::array<PanelHook, 5> vValChange;  // vVal1 .. vVal5
+  // The panel's canvas button and the floating block pSpire serve several modes; each mode that
+  // uses them gives its own reaction here.
+  PanelHook cCanClick;
+  PanelHook cCanMouseMove;   // the button's tool tip in this mode
+  StrokeHook spirePress;     // any button pressed on pSpire
+  StrokeHook spireRelease;   // any button released on pSpire
 };
 
 class ToolTable {

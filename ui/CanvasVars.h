@@ -31,6 +31,10 @@ struct CanvasVars {
   Integer PointerY = 0;
   Integer DownX = 0, DownY = 0;              // press position, rounded twips
   Integer DownButtonX = 0, DownButtonY = 0;  // press position in pixels
+
+  Integer CanvasGradDir = 0;  // direction of the linear ramps: 0 top to bottom, -1 left to right
+  // Gradient drawings begun; a drawing that lets other events run stops when a newer one began.
+  Long GradientDrawings = 0;
 };
 
 }  // namespace qp
