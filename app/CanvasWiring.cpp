@@ -6,9 +6,11 @@
 #include "core/Grid.h"
 #include "core/Help.h"
 #include "core/Edit.h"
+#include "core/FloatingBlock.h"
 #include "core/Keyboard.h"
 #include "core/Layout.h"
 #include "core/PaintModes.h"
+#include "core/PixPipeline.h"
 #include "core/Panel.h"
 #include "core/PanelRoles.h"
 #include "core/Pipeline.h"
@@ -79,6 +81,15 @@ void wireCanvasEvents(Session& s, const std::function<void()>& quit) {
   f.PicPaint.MouseMove = [&s](int b, int sh, Single x, Single y) { PicPaint_MouseMove(s, b, sh, x, y); };
   f.PicPaint.MouseUp = [&s](int b, int sh, Single x, Single y) { PicPaint_MouseUp(s, b, sh, x, y); };
   f.vInt.Change = [&s] { vInt_Change(s); };
+  // The canvas button and the floating block answer for the mode in use.
+  f.cCan.Click = [&s] { cCan_Click(s); };
+  f.cCan.MouseMove = [&s](int, int, Single, Single) { cCan_MouseMove(s); };
+  f.pSpire.MouseDown = [&s](int b, int sh, Single x, Single y) { pSpire_MouseDown(s, b, sh, x, y); };
+  f.pSpire.MouseUp = [&s](int b, int sh, Single x, Single y) { pSpire_MouseUp(s, b, sh, x, y); };
+  // The pixel surface carries the strokes of the modes that paint in pixels.
+  f.pPix.MouseDown = [&s](int b, int sh, Single x, Single y) { pPix_MouseDown(s, b, sh, x, y); };
+  f.pPix.MouseMove = [&s](int b, int sh, Single x, Single y) { pPix_MouseMove(s, b, sh, x, y); };
+  f.pPix.MouseUp = [&s](int b, int sh, Single x, Single y) { pPix_MouseUp(s, b, sh, x, y); };
   f.lMode.Change = [&f] { f.lModeB.Caption = f.lMode.Caption.get(); };
   f.lHelp.Change = [&f] { f.lHelpb.Caption = f.lHelp.Caption.get(); };
   f.m64x48.Click = [&s] { m64x48_Click(s); };
@@ -140,6 +151,7 @@ void wireCanvas(Session& s, const std::function<void()>& quit) {
   wireTransparencyTool(s);
   wireLineTools(s);
   wireSpirals(s, quit);
+  wireGradients(s);
 }
 
 }  // namespace qp

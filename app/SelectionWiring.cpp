@@ -1,9 +1,7 @@
-// The Selection Tool's menu and floating pictures, and Paint w/Pix, each to its routine. Controls
-// shared with other modes (the pixel surface, the floating box, the panel's button, the Explorer's
-// button) keep whatever handler they had for the other modes: the new one passes their events on.
-#include <algorithm>
-#include <vector>
-
+// The Selection Tool's menu and floating pictures, and Paint w/Pix, each to its routine. The
+// floating box, the pixel surface and the panel's button reach the selection and Paint w/Pix
+// through their tool hooks; the Explorer's button and pTemp keep the handler they had and this
+// one runs after it.
 #include "app/Wiring.h"
 #include "core/Session.h"
 #include "tools/PaintWithPix.h"
@@ -15,16 +13,6 @@ namespace qp {
 namespace {
 
 using PointerEvent = std::function<void(int, int, Single, Single)>;
-
-// Mine in the given modes, the handler before it in all others.
-PointerEvent inModes(Session& s, std::initializer_list<int> modes, PointerEvent mine, PointerEvent before) {
-  std::vector<int> list(modes);
-  return [&s, list, mine = std::move(mine), before = std::move(before)](int b, int sh, Single x, Single y) {
-    const int mode = s.m.PaintMode;
-    if (std::find(list.begin(), list.end(), mode) != list.end() || !before) mine(b, sh, x, y);
-    else before(b, sh, x, y);
-  };
-}
 
 std::function<void()> alsoRun(std::function<void()> before, std::function<void()> mine) {
   return [before = std::move(before), mine = std::move(mine)] {
@@ -54,22 +42,11 @@ void wireSelection(Session& s) {
   f.m88.Click = [&s] { TileSelection_Click(s, 8); };
   f.mBluScrn.Click = [&s] { EnterTransparentMode(s); };
 
-  f.pSpire.MouseDown = inModes(s, {18, 19}, [&s](int b, int sh, Single x, Single y) { pSpire_MouseDown(s, b, sh, x, y); },
-                               f.pSpire.MouseDown);
-  f.pSpire.MouseUp = inModes(s, {18, 19}, [&s](int b, int sh, Single x, Single y) { pSpire_MouseUp(s, b, sh, x, y); },
-                             f.pSpire.MouseUp);
   f.pTemp.MouseUp = alsoRunPointer(f.pTemp.MouseUp, [&s](int b, int sh, Single x, Single y) { pTemp_MouseUp(s, b, sh, x, y); });
 
-  f.pPix.MouseDown = inModes(s, {26}, [&s](int b, int sh, Single x, Single y) { TransparentPress(s, b, sh, x, y); },
-                             f.pPix.MouseDown);
-  f.pPix.MouseMove = inModes(s, {26}, [&s](int b, int sh, Single x, Single y) { TransparentMove(s, b, sh, x, y); },
-                             f.pPix.MouseMove);
-  f.pPix.MouseUp = inModes(s, {26}, [&s](int b, int sh, Single x, Single y) { TransparentRelease(s, b, sh, x, y); },
-                           f.pPix.MouseUp);
   f.tPix.Timer_ = [&s] { tPix_Timer(s); };
 
   f.cPic.Click = alsoRun(f.cPic.Click, [&s] { CollageTakePicture(s); });
-  f.cCan.Click = alsoRun(f.cCan.Click, [&s] { CollageOpenExplorer(s); });
 }
 
 }  // namespace qp

@@ -1,5 +1,5 @@
-// The spirals' events: the panel's button and the floating result for GeoSpiralz, the pixel
-// surface and the MiniSpirals box for Freehand Spiralz, and the full-screen window.
+// The spirals' own events: the MiniSpirals box and the keys on the spiral surfaces, and the
+// full-screen window.
 #include "app/Wiring.h"
 #include "color/ColourEngine.h"
 #include "core/PixPipeline.h"
@@ -14,28 +14,11 @@ namespace qp {
 
 namespace {
 
-// The hook of the mode in use, looked up when the event comes, since the mode may have changed.
-template <class Hook>
-void runHook(Session& s, Hook ToolHooks::*hook, int Button, Single X, Single Y) {
-  if (const auto& h = s.tools.at(s.m.PaintMode).*hook) h(s, Button, X, Y);
-}
-
 void wireCanvasSpirals(Session& s) {
   frmCanvas& f = s.f;
-  f.cCan.Click = [&s] {
-    if (const PanelHook& h = s.tools.at(s.m.PaintMode).cCanClick) h(s);
-  };
-  f.cCan.MouseMove = [&s](int, int, Single, Single) {
-    if (s.m.PaintMode == 12) cCan_MouseMoveSpiral(s);
-  };
   f.ckVal.MouseMove = [&s](int, int, Single, Single) {
     if (s.m.PaintMode == 16 || s.m.PaintMode == 28) ckVal_MouseMoveSpiral(s);
   };
-  f.pSpire.MouseDown = [&s](int b, int, Single x, Single y) { runHook(s, &ToolHooks::floatPress, b, x, y); };
-  f.pSpire.MouseUp = [&s](int b, int, Single x, Single y) { runHook(s, &ToolHooks::floatRelease, b, x, y); };
-  f.pPix.MouseDown = [&s](int b, int sh, Single x, Single y) { pPix_MouseDown(s, b, sh, x, y); };
-  f.pPix.MouseMove = [&s](int b, int sh, Single x, Single y) { pPix_MouseMove(s, b, sh, x, y); };
-  f.pPix.MouseUp = [&s](int b, int sh, Single x, Single y) { pPix_MouseUp(s, b, sh, x, y); };
   f.pPX.MouseDown = [&s](int b, int sh, Single x, Single y) { pPX_MouseDown(s, b, sh, x, y); };
   f.pPX.MouseMove = [&s](int b, int sh, Single x, Single y) { pPX_MouseMove(s, b, sh, x, y); };
   f.pPX.MouseUp = [&s](int b, int sh, Single x, Single y) { pPX_MouseUp(s, b, sh, x, y); };

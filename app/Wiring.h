@@ -30,5 +30,7 @@ void wireLineTools(Session& s);
 // The spirals: GeoSpiralz's button and floating result, the pixel surface of Freehand Spiralz and
 // its MiniSpirals box, and the full-screen window.
 void wireSpirals(Session& s, const std::function<void()>& quit);
+// The gradients' and spheres' own controls: the sphere timer and the ramp direction buttons.
+void wireGradients(Session& s);
 
 }  // namespace qp

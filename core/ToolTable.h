@@ -30,11 +30,13 @@ struct ToolHooks {
   StrokeHook pixPress;
   StrokeHook pixMove;
   StrokeHook pixRelease;
-  // The floating result pSpire: a press on it, and a release on it.
-  StrokeHook floatPress;
-  StrokeHook floatRelease;
-  PanelHook cCanClick;      // the panel's command button
-  PanelHook fullScreenKey;  // F9 on the main window
+  // The panel's canvas button and the floating block pSpire serve several modes; each mode that
+  // uses them gives its own reaction here.
+  PanelHook cCanClick;
+  PanelHook cCanMouseMove;   // the button's tool tip in this mode
+  StrokeHook spirePress;     // any button pressed on pSpire
+  StrokeHook spireRelease;   // any button released on pSpire
+  PanelHook fullScreenKey;   // F9 on the main window
 };
 
 class ToolTable {

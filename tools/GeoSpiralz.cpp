@@ -84,7 +84,7 @@ void GeoSpiralzRelease(Session& s, int, Single X, Single Y) {
 }
 
 // A left press sets the floating spiral into the canvas where its frame stands.
-void pSpire_MouseDown(Session& s, int Button, Single, Single) {
+void GeoSpire_MouseDown(Session& s, int Button, Single, Single) {
   frmCanvas& f = s.f;
   if (Button != vbLeftButton) return;
   trap([&] {
@@ -161,8 +161,9 @@ ToolHooks geoSpiralzHooks() {
   h.press = GeoSpiralzPress;
   h.move = GeoSpiralzMove;
   h.release = GeoSpiralzRelease;
-  h.floatPress = pSpire_MouseDown;
-  h.floatRelease = pSpire_MouseUp;
+  h.spirePress = GeoSpire_MouseDown;
+  h.cCanMouseMove = cCan_MouseMoveSpiral;
+  h.spireRelease = pSpire_MouseUp;
   h.cCanClick = cCan_GeoSpiral;
   h.vValChange = {equationChange, symmetryChange, densityChange, styleChange, offsetChange};
   return h;

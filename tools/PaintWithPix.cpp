@@ -80,12 +80,16 @@ ToolHooks collageHooks() {
   h.press = CollagePress;
   h.move = CollageMove;
   h.release = CollageRelease;
+  h.cCanClick = CollageOpenExplorer;
   return h;
 }
 
 ToolHooks transparentModeHooks() {
   ToolHooks h;
   h.enter = OpenTransparencyWindow;
+  h.pixPress = [](Session& s, int Button, Single X, Single Y) { TransparentPress(s, Button, 0, X, Y); };
+  h.pixMove = [](Session& s, int Button, Single X, Single Y) { TransparentMove(s, Button, 0, X, Y); };
+  h.pixRelease = [](Session& s, int Button, Single X, Single Y) { TransparentRelease(s, Button, 0, X, Y); };
   return h;
 }
 

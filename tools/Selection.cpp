@@ -192,6 +192,8 @@ ToolHooks selectAndClearHooks() {
   h.press = SelectionPress;
   h.move = SelectionMove;
   h.release = SelectAndClearRelease;
+  h.spirePress = SelectionSpire_MouseDown;
+  h.spireRelease = SelectionSpire_MouseUp;
   return h;
 }
 
@@ -200,6 +202,8 @@ ToolHooks selectAndCopyHooks() {
   h.press = SelectionPress;
   h.move = SelectionMove;
   h.release = SelectAndCopyRelease;
+  h.spirePress = SelectionSpire_MouseDown;
+  h.spireRelease = SelectionSpire_MouseUp;
   return h;
 }
 
@@ -211,7 +215,7 @@ ToolHooks floatingPasteHooks() {
   return h;
 }
 
-void pSpire_MouseDown(Session& s, int Button, int, Single, Single) {
+void SelectionSpire_MouseDown(Session& s, int Button, Single, Single) {
   frmCanvas& f = s.f;
   if (Button != vbLeftButton) return;
   trap([&] {
@@ -229,7 +233,7 @@ void pSpire_MouseDown(Session& s, int Button, int, Single, Single) {
   });
 }
 
-void pSpire_MouseUp(Session& s, int Button, int, Single, Single) {
+void SelectionSpire_MouseUp(Session& s, int Button, Single, Single) {
   frmCanvas& f = s.f;
   if (Button != vbRightButton) return;
   trap([&] {

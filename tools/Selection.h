@@ -19,8 +19,8 @@ ToolHooks selectAndClearHooks();  // mode 18
 ToolHooks selectAndCopyHooks();   // mode 19
 ToolHooks floatingPasteHooks();   // mode 22
 
-void pSpire_MouseDown(Session& s, int Button, int Shift, Single X, Single Y);  // sets the float
-void pSpire_MouseUp(Session& s, int Button, int Shift, Single X, Single Y);    // right: cancels
+void SelectionSpire_MouseDown(Session& s, int Button, Single X, Single Y);  // sets the float
+void SelectionSpire_MouseUp(Session& s, int Button, Single X, Single Y);    // right: cancels
 void pTemp_MouseUp(Session& s, int Button, int Shift, Single X, Single Y);     // right: cancels
 
 // The commands on a floating selection; each does nothing while no selection floats.

@@ -12,6 +12,8 @@
 #include "tools/Selection.h"
 #include "tools/ShadowDraw.h"
 #include "tools/Shapes.h"
+#include "tools/CanvasGradients.h"
+#include "tools/Spheres.h"
 
 namespace qp {
 
@@ -38,6 +40,10 @@ void registerTools(ToolTable& table) {
   freehand.fullScreenKey = OpenFullScreen;  // F9
   table.set(16, freehand);
   table.set(28, miniSpiralsHooks());
+  table.set(8, sphereHooks());
+  table.set(11, circleFxHooks());
+  table.set(17, gradientShapeHooks());
+  table.set(25, canvasGradientHooks());
 }
 
 }  // namespace qp

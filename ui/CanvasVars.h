@@ -32,12 +32,14 @@ struct CanvasVars {
   Integer DownX = 0, DownY = 0;              // press position, rounded twips
   Integer DownButtonX = 0, DownButtonY = 0;  // press position in pixels
   Integer ShapeRadius = 0;                   // radius of the last circle of Simple Shapes
-  Integer CanvasGradDir = 0;                 // gradient direction: 0 down the box, -1 across it
+  Integer CanvasGradDir = 0;                 // direction of the linear ramps: 0 top to bottom, -1 left to right
 
   // The spirals. A GeoSpiralz drawing waits on the event loop between its lines, so other events
   // come in while it runs; this says one is under way. The freehand spiral's remembered ring.
   bool SpiralDrawing = false;
   Single PixLastRadius = 0, PixLastAngle = 0;
+  // Gradient drawings begun; a drawing that lets other events run stops when a newer one began.
+  Long GradientDrawings = 0;
 };
 
 }  // namespace qp
