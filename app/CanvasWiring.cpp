@@ -133,6 +133,8 @@ void wireCanvas(Session& s, const std::function<void()>& quit) {
   wireKeyboard(s, quit);
   wireAutoDraw(s);
   wireFiles(s);
+  wireBrushes(s);
+  wireTextTools(s);  // last: it hands pPix's events of other modes on to their handlers
 }
 
 }  // namespace qp

@@ -16,5 +16,9 @@ void wireEditCommands(Session& s);
 // The file window, the Explorer panel, the File menu's Open and Save, drops on the canvas and the
 // layout preview.
 void wireFiles(Session& s);
+// The figure brushes' and box brush's timers.
+void wireBrushes(Session& s);
+// The text tools: Text Brush's timer, 3D Text's boxes and bars, Shadow Text's sample and sizes.
+void wireTextTools(Session& s);
 
 }  // namespace qp

@@ -7,6 +7,7 @@
 
 #include "core/Panel.h"
 #include "core/PanelRoles.h"
+#include "core/ToolTable.h"
 #include "ui/frmCanvas.h"
 
 namespace qp {
@@ -144,8 +145,12 @@ void canvasGradients(Session& s) {
   f.vVal1.Value = 0;
 }
 
-// Shadow Text picks its font and shadow offset in its own frame over the canvas.
-void shadowText(Session& s) { s.f.fShad.Visible = true; }
+// Shadow Text picks its font and shadow offset in its own frame over the canvas, whose sample
+// shows them from the start.
+void shadowText(Session& s) {
+  s.f.fShad.Visible = true;
+  ShowShadowTextSample(s);
+}
 
 void transparentMode(Session& s) {
   frmCanvas& f = s.f;
@@ -264,8 +269,12 @@ void OpenTransparencyTool(Session&) {
   // The Transparency Tool's window opens here, modally over the main window, once it exists.
 }
 
-void ShowTextSample(Session&) {
-  // The 3D text sample is drawn here by the text tools, once they exist.
+void ShowTextSample(Session& s) {
+  if (const PanelHook& sample = s.tools.at(21).sample) sample(s);
+}
+
+void ShowShadowTextSample(Session& s) {
+  if (const PanelHook& sample = s.tools.at(29).sample) sample(s);
 }
 
 }  // namespace qp

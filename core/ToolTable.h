@@ -23,6 +23,9 @@ struct ToolHooks {
   PanelHook ckValClick;
   PanelHook ckVal2Click;
   std::array<PanelHook, 5> vValChange;  // vVal1 .. vVal5
+  // Draws the mode's sample again (the 3D text on pPix, the shadow text box) when something it
+  // shows has changed: the mode's entry, the colours, the fonts.
+  PanelHook sample;
 };
 
 class ToolTable {
