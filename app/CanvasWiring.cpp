@@ -152,6 +152,8 @@ void wireCanvas(Session& s, const std::function<void()>& quit) {
   wireLineTools(s);
   wireSpirals(s, quit);
   wireGradients(s);
+  wireBrushes(s);
+  wireTextTools(s);
 }
 
 }  // namespace qp

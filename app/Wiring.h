@@ -32,5 +32,9 @@ void wireLineTools(Session& s);
 void wireSpirals(Session& s, const std::function<void()>& quit);
 // The gradients' and spheres' own controls: the sphere timer and the ramp direction buttons.
 void wireGradients(Session& s);
+// The figure brushes' and box brush's timers.
+void wireBrushes(Session& s);
+// The text tools: Text Brush's timer, 3D Text's boxes and bars, Shadow Text's sample and sizes.
+void wireTextTools(Session& s);
 
 }  // namespace qp

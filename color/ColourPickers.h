@@ -9,6 +9,8 @@ namespace qp {
 
 void ApplyColors(Session& s);
 void SwapColors(Session& s);
+// The hidden bars of 3D Text take the parts of the front and back colours; BackClr takes back.
+void SetTextColourBars(Session& s, Colour fore, Colour back);
 // One byte of a colour: 0 red, 1 green, 2 blue. Stores the red byte in ClrRed on every call.
 int ColorPart(Session& s, Colour colour, int part);
 void SetSwatchColor(Session& s);

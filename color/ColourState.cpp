@@ -2,6 +2,7 @@
 #include <cmath>
 
 #include "color/ColourPickers.h"
+#include "core/PanelRoles.h"
 #include "ui/frmCanvas.h"
 
 namespace qp {
@@ -21,7 +22,23 @@ void ApplyColors(Session& s) {
   f.shErSize.FillColor = s.m.ForeClr;
   // With the text tools open the back colour is theirs too; otherwise each picker writes BackClr
   // itself, so that a tool's running BackClr is not undone by choosing a fore colour.
-  if (f.fText.Visible) s.m.BackClr = f.lBkclr.BackColor.get();
+  if (f.fText.Visible) {
+    // The 3D text sample is drawn with the bars as they stand; the bars follow the colours after
+    // it, so the sample takes the new colours at its next drawing.
+    ShowTextSample(s);
+    SetTextColourBars(s, s.m.ForeClr, f.lBkclr.BackColor);
+  }
+}
+
+void SetTextColourBars(Session& s, Colour fore, Colour back) {
+  frmCanvas& f = s.f;
+  f.HS1(3).Value = redOf(fore);
+  f.HS1(4).Value = greenOf(fore);
+  f.HS1(5).Value = blueOf(fore);
+  s.m.BackClr = back;
+  f.HS1(0).Value = redOf(back);
+  f.HS1(1).Value = greenOf(back);
+  f.HS1(2).Value = blueOf(back);
 }
 
 void SwapColors(Session& s) {
@@ -31,6 +48,8 @@ void SwapColors(Session& s) {
   f.lBkclr.BackColor = fore;
   s.m.ForeClr = f.lForclr.BackColor.get();
   s.m.BackClr = f.lBkclr.BackColor.get();
+  SetTextColourBars(s, s.m.ForeClr, s.m.BackClr);
+  if (f.fText.Visible) ShowTextSample(s);
   // PicPaint's pen is left alone on purpose: the next tool step or ApplyColors sets it.
 }
 

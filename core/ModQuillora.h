@@ -27,6 +27,7 @@ struct ModQuillora {
   Long PixDrawX = 0, PixDrawY = 0;  // pixel position for StampTransparent
   Long TransparentClr = 0;    // key colour shared by the transparency tools
   Integer TransparencyDone = 0;     // -1 once the Transparency Tool has an image ready
+  Integer PrintX = 0, PrintY = 0;   // start of the 3D text's stack of layers
 };
 
 }  // namespace qp

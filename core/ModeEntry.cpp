@@ -145,8 +145,12 @@ void canvasGradients(Session& s) {
   f.vVal1.Value = 0;
 }
 
-// Shadow Text picks its font and shadow offset in its own frame over the canvas.
-void shadowText(Session& s) { s.f.fShad.Visible = true; }
+// Shadow Text picks its font and shadow offset in its own frame over the canvas, whose sample
+// shows them from the start.
+void shadowText(Session& s) {
+  s.f.fShad.Visible = true;
+  ShowShadowTextSample(s);
+}
 
 void transparentMode(Session& s) {
   frmCanvas& f = s.f;
@@ -266,8 +270,12 @@ void OpenTransparencyTool(Session& s) {
   if (const auto& enter = s.tools.at(26).enter) enter(s);
 }
 
-void ShowTextSample(Session&) {
-  // The 3D text sample is drawn here by the text tools, once they exist.
+void ShowTextSample(Session& s) {
+  if (const PanelHook& sample = s.tools.at(21).sample) sample(s);
+}
+
+void ShowShadowTextSample(Session& s) {
+  if (const PanelHook& sample = s.tools.at(29).sample) sample(s);
 }
 
 }  // namespace qp

@@ -29,8 +29,10 @@ void ApplyModeEntry(Session& s);
 // prepares a picture first. The window lives in a higher layer: Transparent Mode's entry hook in
 // the tool table opens it.
 void OpenTransparencyTool(Session& s);
-// 3D Text draws its sample on the pixel surface at entry; the text tools fill this in.
+// 3D Text draws its sample on the pixel surface at entry and whenever the colours change; Shadow
+// Text draws its sample box at entry. The text tools draw them through their tool hooks.
 void ShowTextSample(Session& s);
+void ShowShadowTextSample(Session& s);
 
 // Connects the panel's bars and check boxes to the handlers above.
 void wirePanel(Session& s);

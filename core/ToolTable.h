@@ -37,6 +37,9 @@ struct ToolHooks {
   StrokeHook spirePress;     // any button pressed on pSpire
   StrokeHook spireRelease;   // any button released on pSpire
   PanelHook fullScreenKey;   // F9 on the main window
+  // Draws the mode's sample again (the 3D text on pPix, the shadow text box) when something it
+  // shows has changed: the mode's entry, the colours, the fonts.
+  PanelHook sample;
 };
 
 class ToolTable {

@@ -43,6 +43,7 @@ const std::map<QString, Reader>& readers() {
       QP_V(CanvasLocked), QP_V(TransparencySelect), QP_V(ShadowOffsetX), QP_V(ShadowOffsetY),
       QP_V(PointerX), QP_V(PointerY), QP_V(DownX), QP_V(DownY), QP_V(DownButtonX), QP_V(DownButtonY),
       QP_V(CanvasGradDir),
+      QP_M(PrintX), QP_M(PrintY), QP_V(BoxKind), QP_V(FontOptionStep),
   };
   return r;
 }

@@ -2,6 +2,7 @@
 // size rules, and what the view reads back (dirty rectangle, refresh requests).
 #include "surface/PictureBox.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 
@@ -88,6 +89,19 @@ void PictureBox::installRules() {
   FillStyle.setSetter([this](const int& s) {
     requireRange(s, 0, 7);
     FillStyle.setRaw(s);
+  });
+  // A font the system lacks is taken and falls back to a near one when text is drawn; a name that
+  // no font can have (empty, or with control characters) is refused.
+  FontName.setSetter([this](const QString& name) {
+    const bool control = std::any_of(name.begin(), name.end(), [](QChar c) { return c.category() == QChar::Other_Control; });
+    if (name.trimmed().isEmpty() || control) raiseError(RuntimeError::InvalidPropertyValue, "Invalid property value");
+    FontName.setRaw(name);
+  });
+  // Sizes in points, up to the largest the runtime's fonts take.
+  FontSize.setSetter([this](const Single& size) {
+    requireFinite(size);
+    if (size <= 0 || size > 2160) raiseError(RuntimeError::InvalidPropertyValue, "Invalid property value");
+    FontSize.setRaw(size);
   });
 }
 

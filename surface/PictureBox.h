@@ -113,6 +113,9 @@ class PictureBox : public VisualControl {
   void Cls();
   void Refresh();
   void Print(const QString& text);
+  // Print with the position left behind the printed text on its last line (`Print text;`), so the
+  // next Print goes on where this one stopped.
+  void PrintOnLine(const QString& text);
   Single TextWidth(const QString& text) const;
   Single TextHeight(const QString& text) const;
 
@@ -159,6 +162,7 @@ class PictureBox : public VisualControl {
   // Integer pixel of a coordinate in the present scale (rounded, clamped, NaN raises).
   int pixelX(Single x) const;
   int pixelY(Single y) const;
+  void printLines(const QString& text, bool staysOnLine);
   // Keeps a picture's pixels that nobody else holds, so the next detach copies into memory that is
   // already mapped instead of a fresh allocation.
   void recycle(QImage&& old);

@@ -36,7 +36,11 @@ QStringList linesOf(const QString& text) {
 
 }  // namespace
 
-void PictureBox::Print(const QString& text) {
+void PictureBox::Print(const QString& text) { printLines(text, false); }
+
+void PictureBox::PrintOnLine(const QString& text) { printLines(text, true); }
+
+void PictureBox::printLines(const QString& text, bool staysOnLine) {
   QImage& img = editBitmap();
   const QFont font = fontOf(*this);
   const QFontMetrics fm(font);
@@ -47,15 +51,24 @@ void PictureBox::Print(const QString& text) {
   p.setFont(font);
   p.setPen(QColor::fromRgb(raster::toPixel(ForeColor)));
   const QStringList lines = linesOf(text);
-  for (const QString& line : lines) {
-    const QRect cell(x, y, fm.horizontalAdvance(line), fm.height());
+  int lastAdvance = 0;
+  for (qsizetype i = 0; i < lines.size(); ++i) {
+    const QString& line = lines[i];
+    lastAdvance = fm.horizontalAdvance(line);
+    const QRect cell(x, y, lastAdvance, fm.height());
     if (!FontTransparent) p.fillRect(cell, QColor::fromRgb(raster::toPixel(BackColor)));
-    p.drawText(QPoint(x, y + fm.ascent()), line);
+    if (!line.isEmpty()) p.drawText(QPoint(x, y + fm.ascent()), line);
     // Italic overhang and underline may reach a little past the advance.
     markDirty(cell.adjusted(-2, 0, fm.maxWidth() / 2 + 2, 2));
-    y += fm.lineSpacing();
+    if (!staysOnLine || i + 1 < lines.size()) y += fm.lineSpacing();
   }
   p.end();
+  if (staysOnLine) {
+    // Behind the last line's text, from the exact start so that runs of prints do not drift.
+    CurrentX = static_cast<Single>(startX + lastAdvance / pixelsPerUnitX());
+    CurrentY = static_cast<Single>(y / pixelsPerUnitY() + ScaleTop);
+    return;
+  }
   CurrentX = startX;
   CurrentY = static_cast<Single>(y / pixelsPerUnitY() + ScaleTop);
 }

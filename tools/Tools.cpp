@@ -14,6 +14,10 @@
 #include "tools/Shapes.h"
 #include "tools/CanvasGradients.h"
 #include "tools/Spheres.h"
+#include "tools/BoxesBubblez.h"
+#include "tools/FigureBrush.h"
+#include "tools/ShadowDraw.h"
+#include "tools/TextTools.h"
 
 namespace qp {
 
@@ -44,6 +48,11 @@ void registerTools(ToolTable& table) {
   table.set(11, circleFxHooks());
   table.set(17, gradientShapeHooks());
   table.set(25, canvasGradientHooks());
+  table.set(7, figureBrushHooks());
+  table.set(9, boxesBubblezHooks());
+  table.set(20, textBrushHooks());
+  table.set(21, text3DHooks());
+  table.set(29, shadowTextHooks());
 }
 
 }  // namespace qp

@@ -25,6 +25,8 @@ struct CanvasVars {
   Integer CanvasLocked = 0;
   Integer TransparencySelect = 0;
   Long ShadowOffsetX = 0, ShadowOffsetY = 0;
+  Byte BoxKind = 0;         // the proportion the box brush's last tick chose
+  Byte FontOptionStep = 0;  // the font option a right click on either font list takes next
 
   // The stroke's positions. PointerX keeps its fraction; PointerY is rounded to whole twips.
   Single PointerX = 0;

@@ -13,7 +13,8 @@ frmCanvas::frmCanvas(Runtime& rt)
       ColourBlock(static_cast<Form&>(*this)),
       ControlPanel(static_cast<Form&>(*this), fColors),
       ExplorerPanel(static_cast<Form&>(*this), fX),
-      CanvasMenus(static_cast<Form&>(*this)) {
+      CanvasMenus(static_cast<Form&>(*this)),
+      TextPanels(static_cast<Form&>(*this), static_cast<ControlPanel&>(*this)) {
   Caption = " Quillora Pro";
   KeyPreview = true;
   BackColor = 0x404040;

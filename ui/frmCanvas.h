@@ -10,6 +10,7 @@
 #include "ui/ColourBlock.h"
 #include "ui/ControlPanel.h"
 #include "ui/ExplorerPanel.h"
+#include "ui/TextPanels.h"
 
 namespace qp {
 
@@ -20,7 +21,8 @@ class frmCanvas : public Form,
                   public ControlPanel,
                   public ExplorerPanel,
                   public CanvasMenus,
-                  public CanvasVars {
+                  public CanvasVars,
+                  public TextPanels {
  public:
   explicit frmCanvas(Runtime& rt);
 };

@@ -89,7 +89,9 @@ bool FormView::mouseEvent(VisualControl& c, QWidget* w, QEvent* e) {
       break;
     }
     case QEvent::MouseButtonDblClick:
-      if (drawnByWindow(c.kind())) dispatch([&] { c.raiseDblClick(); });
+      // A text box reports its double click too (a text tool's box clears on it), and goes on
+      // to select as usual.
+      if (drawnByWindow(c.kind()) || c.kind() == ControlKind::TextBox) dispatch([&] { c.raiseDblClick(); });
       break;
     default: break;
   }

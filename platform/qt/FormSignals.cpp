@@ -6,6 +6,7 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
@@ -18,6 +19,27 @@ namespace qp {
 
 namespace {
 bool isTopMenu(const Menu& m) { return !m.parent() || m.parent()->kind() != ControlKind::Menu; }
+
+// A list's entries take the pointer in its viewport; a button let go there is the list's MouseUp
+// (a right click on a list is how some lists offer their options).
+class ReleaseWatch : public QObject {
+ public:
+  ReleaseWatch(QObject* parent, std::function<void(int button, int shift)> onRelease)
+      : QObject(parent), onRelease_(std::move(onRelease)) {}
+  bool eventFilter(QObject*, QEvent* e) override {
+    if (e->type() != QEvent::MouseButtonRelease) return false;
+    auto* me = static_cast<QMouseEvent*>(e);
+    int b = 0;
+    if (me->button() == Qt::LeftButton) b = vbLeftButton;
+    if (me->button() == Qt::RightButton) b = vbRightButton;
+    if (me->button() == Qt::MiddleButton) b = vbMiddleButton;
+    onRelease_(b, shiftStateFor(me->modifiers()));
+    return false;
+  }
+
+ private:
+  std::function<void(int, int)> onRelease_;
+};
 }  // namespace
 
 void FormView::rebuildMenus() {
@@ -150,6 +172,9 @@ void FormView::connectSignals(Control* c, QWidget* w) {
         const int shift = shiftStateFor(QApplication::keyboardModifiers());
         dispatch([l, b, shift] { l->raiseMouseDown(b, shift, 0, 0); });
       });
+      list->viewport()->installEventFilter(new ReleaseWatch(list, [this, l](int b, int shift) {
+        dispatch([l, b, shift] { l->raiseMouseUp(b, shift, 0, 0); });
+      }));
       connect(list, &QAbstractItemView::entered, this, [this, l] {
         dispatch([l] { l->raiseMouseMove(0, 0, 0, 0); });
       });

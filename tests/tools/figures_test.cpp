@@ -1,0 +1,145 @@
+// The figure brushes and Boxes N Bubblez, driven through the paint area and the virtual clock.
+#include <set>
+
+#include "core/PanelRoles.h"
+#include "support/ProgramFixture.h"
+#include "tools/FigureShapes.h"
+
+namespace qp::test {
+namespace {
+
+class FigureTest : public ProgramTest {
+ protected:
+  void SetUp() override {
+    ProgramTest::SetUp();
+    choose(f().mBrushes);
+    f().vColmode.Value = 0;
+    f().PicPaint.Picture = QImage();
+  }
+  // A figure stamped by one click at (300, 200) pixels; a unit of the figure is `size` twips.
+  void stamp(int figure, int size) {
+    f().ckVal.Value = 0;
+    f().vVal1.Value = figure;
+    f().vVal2.Value = size;
+    press(4500, 3000);
+    release(4500, 3000);
+  }
+  // The pixel at a figure offset (u, v), in the figure's units, from the stamp's centre.
+  Colour at(double u, double v, int size) {
+    return pixel(static_cast<int>(300 + u * size / 15.0), static_cast<int>(200 + v * size / 15.0));
+  }
+  // Lit at that offset or a pixel beside it: curves need not fall on the exact pixel.
+  bool litNear(double u, double v, int size) {
+    const int x = static_cast<int>(300 + u * size / 15.0), y = static_cast<int>(200 + v * size / 15.0);
+    for (int dy = -1; dy <= 1; ++dy)
+      for (int dx = -1; dx <= 1; ++dx)
+        if (pixel(x + dx, y + dy) == kWhite) return true;
+    return false;
+  }
+};
+
+// Where each figure must and must not paint, in its own units: the orientation (which way a
+// slash leans, where a box hangs, where a spear points) and the ellipses' long axes.
+struct FigureCase {
+  int figure;
+  std::vector<std::pair<double, double>> lit, dark;
+};
+
+TEST_F(FigureTest, EachFigurePaintsOnItsOwnSideOfThePointer) {
+  const std::vector<FigureCase> cases = {
+      {0, {{-45, 0}, {45, 0}}, {{0, 45}}},                   // Horizontal
+      {1, {{0, -45}, {0, 45}}, {{45, 0}}},                   // Vertical
+      {2, {{30, 30}}, {{-30, 30}, {30, -30}}},               // Backslash: down to the right
+      {3, {{-30, 30}}, {{30, 30}, {-30, -30}}},              // Fwdslash: down to the left
+      {5, {{0, 120}, {-60, 60}}, {{0, -120}, {-60, -60}}},   // Box hangs below
+      {7, {{0, -120}, {0, 120}}, {{0, -180}}},               // Tall Box
+      {8, {{240, 0}}, {{0, -200}}},                          // Long Ellipse: wide
+      {9, {{0, -240}}, {{200, 0}}},                          // Tall Ellipse: high
+      {24, {{0, -240}}, {{0, 240}}},                         // Spear Up
+      {25, {{0, 240}}, {{0, -240}}},                         // Spear Down
+      {32, {{0, 100}, {0, -235}}, {{0, 235}}},               // Tree: trunk below, top above
+      {46, {{-120, 0}, {0, -120}, {-60, 0}}, {{120, 0}, {0, 120}, {60, 0}}},  // 1/4: upper left, with radii
+      {55, {{-240, 0}, {0, 240}, {240, 0}}, {{100, 100}}},   // Scope
+  };
+  for (const FigureCase& c : cases) {
+    SCOPED_TRACE(BrushFigureName(c.figure).toStdString());
+    f().PicPaint.Picture = QImage();
+    stamp(c.figure, 4);
+    for (auto [u, v] : c.lit) EXPECT_TRUE(litNear(u, v, 4)) << u << ", " << v;
+    for (auto [u, v] : c.dark) EXPECT_EQ(at(u, v, 4), kBlack) << u << ", " << v;
+  }
+}
+
+TEST_F(FigureTest, FiguresOutsideTheListAndTheLookAlikesAreAsTheyAre) {
+  EXPECT_TRUE(FigureParts(-1).empty());
+  EXPECT_TRUE(FigureParts(kFigureCount).empty());
+  for (int k = 0; k < kFigureCount; ++k) EXPECT_FALSE(FigureParts(k).empty()) << k;
+  EXPECT_EQ(FigureParts(22).size(), FigureParts(23).size());
+  // Box kind 0 stays open at the bottom right; the others close.
+  EXPECT_EQ(BoxSides(0)[2].y2, 60);
+  EXPECT_EQ(BoxSides(1)[2].y2, 60);
+  EXPECT_EQ(BoxSides(12)[0].y1, -160);
+  EXPECT_TRUE(BoxSides(18).empty());
+}
+
+TEST_F(FigureTest, HoldingTheButtonStampsAtThePointerOnEachTick) {
+  f().vVal2.Value = 4;  // Horizontal, 16 pixels each way
+  press(1500, 1500);    // ckVal is set at entry: the press stamps once, the timer goes on
+  EXPECT_EQ(pixel(100, 100), kWhite);
+  move(6000, 1500);
+  EXPECT_EQ(pixel(400, 100), kBlack);  // the move only starts the timer
+  headless.loop.advance(20);
+  EXPECT_EQ(pixel(400, 100), kWhite);
+  move(6000, 4500);
+  headless.loop.advance(19);
+  EXPECT_EQ(pixel(400, 300), kBlack);  // the stamps follow the clock, not the distance
+  headless.loop.advance(1);
+  EXPECT_EQ(pixel(400, 300), kWhite);
+  release(6000, 4500);
+  move(6000, 7500, 0);
+  headless.loop.advance(100);
+  EXPECT_EQ(pixel(400, 500), kBlack);
+}
+
+TEST_F(FigureTest, ATickDrawsInPlaceAndMarksOnlyTheStampsRectangle) {
+  f().vVal2.Value = 4;  // Horizontal, 284 to 316 on row 200
+  press(4500, 3000);
+  move(4500, 3000);
+  headless.loop.advance(20);
+  const uchar* bits = f().PicPaint.bitmap().constBits();
+  (void)f().PicPaint.takeDirty();
+  headless.loop.advance(20);
+  EXPECT_EQ(f().PicPaint.bitmap().constBits(), bits);  // no copy of the canvas
+  const QRect dirty = f().PicPaint.takeDirty();
+  EXPECT_FALSE(dirty.isEmpty());
+  EXPECT_TRUE(QRect(280, 196, 41, 9).contains(dirty)) << dirty.x() << "," << dirty.y() << " " << dirty.width() << "x" << dirty.height();
+  release(4500, 3000);
+}
+
+TEST_F(FigureTest, RandomSizesWanderAndStayOnTheBar) {
+  f().ckVal2.Value = 1;
+  press(4500, 3000);
+  move(4500, 3000);
+  std::set<int> sizes;
+  for (int tick = 0; tick < 40; ++tick) {
+    headless.loop.advance(20);
+    sizes.insert(f().vVal2.Value);
+  }
+  release(4500, 3000);
+  EXPECT_GE(sizes.size(), 3u);
+  EXPECT_GE(*sizes.begin(), 3);  // Int(v Rnd + 3) is never below 3
+}
+
+TEST_F(ProgramTest, BoxSizesSinkTowardsSmallBoxesWhenRandom) {
+  choose(f().mBubble);
+  f().vVal1.Value = 12;
+  EXPECT_EQ(f().ckVal2.Value, 1);  // random sizes are on from the start
+  press(4500, 3750);
+  headless.loop.advance(20 * 40);
+  release(4500, 3750);
+  EXPECT_LE(f().vVal1.Value, 8);
+  EXPECT_GE(f().vVal1.Value, 3);
+}
+
+}  // namespace
+}  // namespace qp::test
