@@ -74,6 +74,12 @@ void VirtualLoop::processEvents() {
   --depth_;
 }
 
+void VirtualLoop::runModal(const std::function<bool()>& done) {
+  // Time moves only when an input says so (a script's wait), so there is nothing to wait for.
+  runPosted();
+  feedUntil(done);
+}
+
 void VirtualLoop::advance(std::int64_t ms) {
   if (ms < 0) ms = 0;
   const std::int64_t target = now_ + ms;

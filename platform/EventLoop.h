@@ -7,6 +7,8 @@
 #include <memory>
 #include <vector>
 
+#include "platform/WindowOrder.h"
+
 namespace qp {
 
 class Timer;
@@ -23,6 +25,33 @@ class EventLoop {
   virtual void timerDestroyed(Timer* t) = 0;
   // Queues work to run on the loop after the present event.
   virtual void post(std::function<void()> fn) = 0;
+
+  // A modal Show waits in a nested loop until done() holds (its window has hidden); events, timers
+  // and input go on meanwhile. When an input source is set, the nested loop takes its input from
+  // there, one input a call, instead of from a user: that is how a script's next lines reach a
+  // modal window. When the source runs dry with the window still open, the nested loop returns
+  // (nobody is left to close it); on the virtual loop without a source it returns at once.
+  virtual void runModal(const std::function<bool()>& done) = 0;
+  // A window hid: a nested loop waiting for it may end.
+  virtual void windowHidden() {}
+  void setInputSource(std::function<bool()> next) { input_ = std::move(next); }
+  bool hasInputSource() const { return static_cast<bool>(input_); }
+
+  // The windows in the order they were last active: keys go to the first one still shown.
+  WindowOrder& windows() { return windows_; }
+
+ protected:
+  // Runs the input source until done() holds; false when it ran dry first.
+  bool feedUntil(const std::function<bool()>& done) {
+    const std::function<bool()> next = input_;  // a copy: an input may change the source
+    while (!done())
+      if (!next || !next()) return done();
+    return true;
+  }
+
+ private:
+  std::function<bool()> input_;
+  WindowOrder windows_;
 };
 
 // Timers fire in order of due time; a timer's next due time is counted from when it fired, as a
@@ -36,6 +65,8 @@ class VirtualLoop : public EventLoop {
   void timerChanged(Timer* t) override;
   void timerDestroyed(Timer* t) override;
   void post(std::function<void()> fn) override;
+  // Never waits: the nested loop is driven by the input source alone (see EventLoop::runModal).
+  void runModal(const std::function<bool()>& done) override;
 
   // Moves the clock by ms, running every timer tick and posted task that falls due on the way.
   void advance(std::int64_t ms);

@@ -76,12 +76,16 @@ struct ShownSession::Parts {
 ShownSession::ShownSession(std::uint32_t seed) : parts_(std::make_unique<Parts>(seed)) {
   program_ = std::make_unique<Program>(parts_->runtime, [this] { quit_ = true; });
   view_ = std::make_unique<FormView>(program_->f);
+  // The other windows show themselves when their forms do, as in the program.
+  others_.push_back(std::make_unique<FormView>(program_->w.file));
+  others_.push_back(std::make_unique<FormView>(program_->w.lo));
   program_->start();
   view_->sync();
   view_->window().show();
 }
 
 ShownSession::~ShownSession() {
+  others_.clear();
   view_.reset();
   program_.reset();
 }

@@ -5,6 +5,7 @@
 #include <QString>
 #include <QTextStream>
 #include <memory>
+#include <vector>
 
 #include "platform/Headless.h"
 #include "platform/Runtime.h"
@@ -77,6 +78,7 @@ class ShownSession : public Host {
   bool quit_ = false;
   std::unique_ptr<Program> program_;
   std::unique_ptr<FormView> view_;
+  std::vector<std::unique_ptr<FormView>> others_;
 };
 
 // A picture of the windows as they are shown, side by side.
