@@ -7,6 +7,8 @@
 #include <memory>
 #include <vector>
 
+#include "platform/WindowOrder.h"
+
 namespace qp {
 
 class Timer;
@@ -30,7 +32,32 @@ class EventLoop {
   void close() { closing_ = true; }
   bool closing() const { return closing_; }
 
+  // A modal Show waits in a nested loop until done() holds (its window has hidden); events, timers
+  // and input go on meanwhile. When an input source is set, the nested loop takes its input from
+  // there, one input a call, instead of from a user: that is how a script's next lines reach a
+  // modal window. When the source runs dry with the window still open, the nested loop returns
+  // (nobody is left to close it); on the virtual loop without a source it returns at once.
+  virtual void runModal(const std::function<bool()>& done) = 0;
+  // A window hid: a nested loop waiting for it may end.
+  virtual void windowHidden() {}
+  void setInputSource(std::function<bool()> next) { input_ = std::move(next); }
+  bool hasInputSource() const { return static_cast<bool>(input_); }
+
+  // The windows in the order they were last active: keys go to the first one still shown.
+  WindowOrder& windows() { return windows_; }
+
+ protected:
+  // Runs the input source until done() holds; false when it ran dry first.
+  bool feedUntil(const std::function<bool()>& done) {
+    const std::function<bool()> next = input_;  // a copy: an input may change the source
+    while (!done())
+      if (!next || !next()) return done();
+    return true;
+  }
+
  private:
+  std::function<bool()> input_;
+  WindowOrder windows_;
   bool closing_ = false;
 };
 
@@ -47,6 +74,8 @@ class VirtualLoop : public EventLoop {
   void post(std::function<void()> fn) override;
   // Runs the clock to `until`, firing what falls due on the way, as the real wait would.
   void waitUntil(std::int64_t until) override;
+  // Never waits: the nested loop is driven by the input source alone (see EventLoop::runModal).
+  void runModal(const std::function<bool()>& done) override;
 
   // Moves the clock by ms, running every timer tick and posted task that falls due on the way.
   void advance(std::int64_t ms);

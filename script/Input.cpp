@@ -54,10 +54,8 @@ Runner::Outcome Runner::pointer(const Command& c) {
   if (!v) return o;
   const QPointF at = toUnits(*v, c.x, c.y);
   if (c.op == Op::Press) {
-    if (takesFocusOnPress(v->kind()) && v->form()) {
-      activeForm_ = v->form();
-      trap([&] { v->form()->setFocusTo(v); });
-    }
+    activate(*v);
+    if (takesFocusOnPress(v->kind()) && v->form()) trap([&] { v->form()->setFocusTo(v); });
     trap([&] { v->raiseMouseDown(c.button, c.shift, f(at.x()), f(at.y())); });
   } else if (c.op == Op::Move) {
     trap([&] { v->raiseMouseMove(c.button, c.shift, f(at.x()), f(at.y())); });
@@ -114,9 +112,11 @@ Runner::Outcome Runner::menu(const Command& c) {
   std::vector<Menu*> path;
   for (Control* x = m; x && x->kind() == ControlKind::Menu; x = x->parent()) path.insert(path.begin(), static_cast<Menu*>(x));
   for (Menu* step : path) {
-    if (!step->Visible || !step->Enabled || (step->form() && !step->form()->Visible)) {
+    if (!step->Visible || !step->Enabled || (step->form() && !step->form()->Visible) || behindModal(step->form())) {
       if (!quietUnreachable_)
-        err_ << "line " << c.line << ": note: " << step->key() << " is hidden or disabled; nothing is chosen" << Qt::endl;
+        err_ << "line " << c.line << ": note: " << step->key()
+             << (behindModal(step->form()) ? " is behind a modal window" : " is hidden or disabled")
+             << "; nothing is chosen" << Qt::endl;
       return Outcome::Done;
     }
     trap([&] { step->raiseClick(); });
@@ -127,7 +127,7 @@ Runner::Outcome Runner::menu(const Command& c) {
 }
 
 void Runner::keyDown(int code, int shift) {
-  Form& form = *activeForm_;
+  Form& form = keyForm();
   VisualControl* target = form.ActiveControl() ? form.ActiveControl() : &form;
   const bool preview = form.KeyPreview && target != &form;
   trap([&] {
@@ -137,7 +137,7 @@ void Runner::keyDown(int code, int shift) {
 }
 
 void Runner::keyUp(int code, int shift) {
-  Form& form = *activeForm_;
+  Form& form = keyForm();
   VisualControl* target = form.ActiveControl() ? form.ActiveControl() : &form;
   const bool preview = form.KeyPreview && target != &form;
   trap([&] {
@@ -147,7 +147,7 @@ void Runner::keyUp(int code, int shift) {
 }
 
 void Runner::keyPress(int ascii) {
-  Form& form = *activeForm_;
+  Form& form = keyForm();
   VisualControl* target = form.ActiveControl() ? form.ActiveControl() : &form;
   const bool preview = form.KeyPreview && target != &form;
   trap([&] {
@@ -155,8 +155,10 @@ void Runner::keyPress(int ascii) {
     if (ascii != 0 && target->KeyPress) target->KeyPress(ascii);
     // A character that no handler took away edits a text box, as its widget would.
     if (auto* t = dynamic_cast<TextBox*>(target); t && ascii != 0) {
-      if (ascii == 8) t->Text = t->Text.get().left(t->Text.get().size() - 1);
-      else if (ascii >= 32) t->Text = t->Text.get() + QChar(ascii);
+      const QString& text = t->Text.get();
+      if (ascii == 8) t->Text = text.left(text.size() - (text.endsWith("\r\n") ? 2 : 1));
+      else if (ascii >= 32) t->Text = text + QChar(ascii);
+      else if (ascii == 13 && t->MultiLine) t->Text = text + "\r\n";  // Enter starts a new line
     }
   });
 }
@@ -182,7 +184,7 @@ Runner::Outcome Runner::type(const Command& c) {
   VisualControl* v = visual(c, o);
   if (!v) return o;
   if (v->form()) {
-    activeForm_ = v->form();
+    activate(*v);
     trap([&] { v->form()->setFocusTo(v); });
   }
   for (QChar ch : c.text) {

@@ -3,6 +3,7 @@
 #include <unordered_map>
 
 #include "platform/Controls.h"
+#include "platform/FileControls.h"
 #include "platform/Form.h"
 #include "platform/Timer.h"
 #include "script/Value.h"
@@ -155,6 +156,7 @@ const Table<TextBox>& textTable() {
       {"Text", [](const TextBox& x) { return v(x.Text); }},
       {"SelStart", [](const TextBox& x) { return v(x.SelStart); }},
       {"SelLength", [](const TextBox& x) { return v(x.SelLength); }},
+      {"MultiLine", [](const TextBox& x) { return v(x.MultiLine); }},
   };
   return t;
 }
@@ -164,6 +166,25 @@ const Table<ListBox>& listTable() {
       {"ListIndex", [](const ListBox& x) { return v(x.ListIndex); }},
       {"ListCount", [](const ListBox& x) { return Value::of(x.ListCount()); }},
       {"Text", [](const ListBox& x) { return Value::string(x.Text()); }},
+  };
+  return t;
+}
+
+const Table<DriveListBox>& driveTable() {
+  static const Table<DriveListBox> t{{"Drive", [](const DriveListBox& x) { return v(x.Drive); }}};
+  return t;
+}
+
+const Table<DirListBox>& dirTable() {
+  static const Table<DirListBox> t{{"Path", [](const DirListBox& x) { return v(x.Path); }}};
+  return t;
+}
+
+const Table<FileListBox>& fileTable() {
+  static const Table<FileListBox> t{
+      {"Path", [](const FileListBox& x) { return v(x.Path); }},
+      {"Pattern", [](const FileListBox& x) { return v(x.Pattern); }},
+      {"FileName", [](const FileListBox& x) { return Value::string(x.FileName()); }},
   };
   return t;
 }
@@ -218,7 +239,8 @@ std::optional<Value> readProperty(const Control& ctl, const QString& name) {
                  lookup(shapeTable(), ctl, name), lookup(lineTable(), ctl, name),
                  lookup(scrollTable(), ctl, name), lookup(checkTable(), ctl, name),
                  lookup(optionTable(), ctl, name), lookup(buttonTable(), ctl, name),
-                 lookup(textTable(), ctl, name), lookup(listTable(), ctl, name),
+                 lookup(textTable(), ctl, name), lookup(driveTable(), ctl, name),
+                 lookup(dirTable(), ctl, name), lookup(fileTable(), ctl, name), lookup(listTable(), ctl, name),
                  lookup(menuTable(), ctl, name), lookup(timerTable(), ctl, name),
                  lookup(visualTable(), ctl, name), lookup(controlTable(), ctl, name)}) {
     if (r) return r;

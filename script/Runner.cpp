@@ -6,6 +6,7 @@
 
 #include "platform/Controls.h"
 #include "platform/Errors.h"
+#include "platform/EventLoop.h"
 #include "platform/Runtime.h"
 #include "script/Value.h"
 #include "surface/PictureBox.h"
@@ -14,7 +15,7 @@
 namespace qp::script {
 
 Runner::Runner(Program& program, Runtime& rt, Host& host, QTextStream& out, QTextStream& err)
-    : p_(program), rt_(rt), host_(host), out_(out), err_(err), activeForm_(&program.f) {}
+    : p_(program), rt_(rt), host_(host), out_(out), err_(err) {}
 
 std::vector<Form*> Runner::forms() const {
   // Every window of the program that a script may name; new windows join this list.
@@ -41,7 +42,23 @@ bool Runner::reachable(const Control& c) const {
   for (const Control* x = &c; x; x = x->parent())
     if (!x->Visible || !x->Enabled) return false;
   const Form* f = c.form() ? c.form() : dynamic_cast<const Form*>(&c);
-  return !f || f->Visible;
+  return !(f && !f->Visible) && !behindModal(f);
+}
+
+bool Runner::behindModal(const Form* f) const {
+  // While a modal window is open, the others take no input.
+  const Form* modal = rt_.loop.windows().modal();
+  return modal && f && f != modal;
+}
+
+Form& Runner::keyForm() const {
+  Form* f = rt_.loop.windows().active();
+  return f ? *f : p_.f;
+}
+
+void Runner::activate(VisualControl& v) {
+  if (Form* f = v.form()) rt_.loop.windows().activate(f);
+  else if (auto* f = dynamic_cast<Form*>(&v)) rt_.loop.windows().activate(f);
 }
 
 Runner::Outcome Runner::error(const Command& c, const QString& message) {
@@ -63,27 +80,42 @@ VisualControl* Runner::visual(const Command& c, Outcome& o) {
   o = Outcome::Done;
   if (!reachable(*v)) {
     if (!quietUnreachable_)
-      err_ << "line " << c.line << ": note: " << c.name << " is hidden or disabled; the input goes nowhere"
-           << Qt::endl;
+      err_ << "line " << c.line << ": note: " << c.name
+           << (behindModal(v->form()) ? " is behind a modal window" : " is hidden or disabled")
+           << "; the input goes nowhere" << Qt::endl;
     return nullptr;
   }
   return v;
 }
 
 int Runner::runAll(const std::vector<Command>& commands) {
-  bool failed = false;
-  for (const Command& c : commands) {
-    switch (run(c)) {
-      case Outcome::Done: break;
-      case Outcome::ExpectFailed: failed = true; break;
-      case Outcome::Error: return 2;
-      case Outcome::Quit:
-        err_ << "line " << c.line << ": the program ended; the rest of the script does not run" << Qt::endl;
-        return failed ? 1 : 0;
-    }
+  const std::vector<Command>* outer = script_;
+  script_ = &commands;
+  next_ = 0;
+  failed_ = false;
+  stopStatus_ = -1;
+  rt_.loop.setInputSource([this] { return step(); });
+  while (step()) {
   }
+  rt_.loop.setInputSource({});
+  script_ = outer;
   out_.flush();
-  return failed ? 1 : 0;
+  return stopStatus_ >= 0 ? stopStatus_ : failed_ ? 1 : 0;
+}
+
+bool Runner::step() {
+  if (!script_ || stopStatus_ >= 0 || next_ >= script_->size()) return false;
+  const Command& c = (*script_)[next_++];
+  switch (run(c)) {
+    case Outcome::Done: break;
+    case Outcome::ExpectFailed: failed_ = true; break;
+    case Outcome::Error: stopStatus_ = 2; return false;
+    case Outcome::Quit:
+      err_ << "line " << c.line << ": the program ended; the rest of the script does not run" << Qt::endl;
+      stopStatus_ = failed_ ? 1 : 0;
+      return false;
+  }
+  return true;
 }
 
 Runner::Outcome Runner::run(const Command& c) {
@@ -97,7 +129,7 @@ Runner::Outcome Runner::run(const Command& c) {
     case Op::Focus: {
       VisualControl* v = visual(c, o);
       if (v && v->form()) {
-        activeForm_ = v->form();
+        activate(*v);
         trap([&] { v->form()->setFocusTo(v); });
         host_.afterInput();
       }

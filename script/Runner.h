@@ -46,6 +46,12 @@ class Runner {
   Outcome run(const Command& c);
   // Runs the commands in order; stops at an error or when the program ends. Returns the exit
   // status: 0 every expect held, 1 one failed, 2 the script could not run.
+  //
+  // A modal window blocks the routine that showed it until the window hides, so the lines after
+  // the one that opened it must run while that routine still waits: the runner is the loop's
+  // input source for the whole run, and the loop's nested loop takes the script's next lines from
+  // it one by one until the window hides. Then the opening line finishes and the run goes on after
+  // the last line the nested loop took. A script that ends with a modal window open leaves it open.
   int runAll(const std::vector<Command>& commands);
 
   // The control a script names: "vVal1", "Shadow(5)", "frmCanvas", "frmTile.cTile".
@@ -54,7 +60,14 @@ class Runner {
 
  private:
   Outcome error(const Command& c, const QString& message);
+  // Runs the next line of the script; false when there is none or the run must stop.
+  bool step();
+  // The window that takes the keys: the active one, else the main window.
+  Form& keyForm() const;
+  // A press, a focus or typing brings the control's window forward.
+  void activate(VisualControl& v);
   bool reachable(const Control& c) const;
+  bool behindModal(const Form* f) const;
   VisualControl* visual(const Command& c, Outcome& o);
   Outcome pointer(const Command& c);
   Outcome click(const Command& c);
@@ -78,7 +91,11 @@ class Runner {
   QTextStream& err_;
   QString inputFolder_;
   bool quietUnreachable_ = false;
-  Form* activeForm_;
+  // The run in progress, shared between runAll and the nested loops of modal windows.
+  const std::vector<Command>* script_ = nullptr;
+  std::size_t next_ = 0;
+  bool failed_ = false;
+  int stopStatus_ = -1;  // the exit status once the run must stop early
 };
 
 }  // namespace qp::script

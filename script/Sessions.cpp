@@ -78,7 +78,7 @@ ShownSession::ShownSession(std::uint32_t seed) : parts_(std::make_unique<Parts>(
   view_ = std::make_unique<FormView>(program_->f);
   for (Form* side : std::initializer_list<Form*>{&program_->w.file, &program_->w.lo, &program_->w.tile,
                                                  &program_->w.blend, &program_->w.stretch,
-                                                 &program_->w.full})
+                                                 &program_->w.full, &program_->w.blue})
     sideViews_.push_back(std::make_unique<FormView>(*side));
   program_->start();
   view_->sync();

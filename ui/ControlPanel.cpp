@@ -101,7 +101,7 @@ ControlPanel::ControlPanel(Form& f, Frame& strip)
     const int top = kRowTop + (n - 1) * kRowPitch;
     place(Shadow(n), 30, top, 1365, 375);
     place(*bars[n - 1], 60, top + 15, 255, 345);
-    place(*labels[n - 1], 345, top + 75, 1020, 225);
+    place(*labels[n - 1], 345, top + 75, 1035, 225);  // as wide as the frame allows: "Lines/Pass : 72"
     labels[n - 1]->BackStyle = 0;
     labels[n - 1]->ForeColor = 0xFFFFFF;
     bars[n - 1]->Visible = false;
@@ -130,7 +130,8 @@ ControlPanel::ControlPanel(Form& f, Frame& strip)
   ckHoriz.Value = 1;
   for (int i = 0; i <= 1; ++i) {
     OptionButton& o = opVert.add(i, &f, &strip, QString("opVert"));
-    place(o, 12120 + i * 675, 330, 640, 210);
+    // One above the other, wide enough for their captions: Vert and Horiz never show with them.
+    place(o, 12120, 60 + i * 270, 1300, 210);
     o.Caption = i == 0 ? "Vertical" : "Horizontal";
     o.BackColor = kPanelBack;
     o.ForeColor = 0xFFFFFF;

@@ -7,6 +7,7 @@
 #include <QUrl>
 
 #include "platform/Controls.h"
+#include "platform/EventLoop.h"
 #include "platform/qt/FormView.h"
 #include "platform/qt/Keys.h"
 #include "platform/qt/Widgets.h"
@@ -165,6 +166,10 @@ bool FormView::windowEvent(QEvent* e) {
       }
       return false;
     }
+    case QEvent::WindowActivate:
+      // The user brought this window forward: keys go here until another is, or this one hides.
+      if (form_.Visible) form_.runtime().loop.windows().activate(&form_);
+      return false;
     case QEvent::Close:
       dispatch([this] {
         if (form_.Unload) form_.Unload();

@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMouseEvent>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
@@ -146,9 +147,16 @@ void FormView::connectSignals(Control* c, QWidget* w) {
     }
     case ControlKind::TextBox: {
       auto* t = static_cast<TextBox*>(c);
-      connect(static_cast<QLineEdit*>(w), &QLineEdit::textEdited, this, [this, t](const QString& text) {
-        dispatch([t, text] { t->Text = text; });
-      });
+      if (auto* edit = qobject_cast<QLineEdit*>(w)) {
+        connect(edit, &QLineEdit::textEdited, this, [this, t](const QString& text) {
+          dispatch([t, text] { t->Text = text; });
+        });
+      } else if (auto* lines = qobject_cast<QPlainTextEdit*>(w)) {
+        // Showing the program's text is done with the signals blocked, so this is the user typing.
+        connect(lines, &QPlainTextEdit::textChanged, this, [this, t, lines] {
+          dispatch([t, text = toLineBreaks(lines->toPlainText())] { t->Text = text; });
+        });
+      }
       break;
     }
     case ControlKind::ListBox: case ControlKind::FileListBox: case ControlKind::DirListBox: {

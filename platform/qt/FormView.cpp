@@ -16,6 +16,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenuBar>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
@@ -24,6 +25,7 @@
 #include <unordered_set>
 
 #include "platform/Controls.h"
+#include "platform/EventLoop.h"
 #include "platform/qt/Widgets.h"
 #include "surface/PictureBox.h"
 
@@ -32,6 +34,7 @@ namespace qp {
 namespace {
 constexpr double kTwipsPerPixel = 15.0;
 constexpr int kPollMs = 16;
+constexpr const char* kViewProperty = "quillora.view";
 
 // Positions come from program arithmetic; a wild value must not become undefined int conversion.
 int toPixels(double v) {
@@ -67,7 +70,9 @@ QCursor cursorFor(const VisualControl& c) {
 }
 }  // namespace
 
-FormView::FormView(Form& form) : form_(form), window_(std::make_unique<QMainWindow>()) {
+FormView::FormView(Form& form)
+    : form_(form), style_(std::make_unique<DesignStyle>()), window_(std::make_unique<QMainWindow>()) {
+  window_->setFont(formFont());  // every widget of the window inherits it
   central_ = new QWidget(window_.get());
   window_->setCentralWidget(central_);
   window_->installEventFilter(this);
@@ -75,6 +80,8 @@ FormView::FormView(Form& form) : form_(form), window_(std::make_unique<QMainWind
   central_->setMouseTracking(true);
   central_->setFocusPolicy(Qt::ClickFocus);
   byWidget_[central_] = &form_;
+  // Another view finds this one through its window, to hand it the keys when a window hides.
+  window_->setProperty(kViewProperty, QVariant::fromValue(static_cast<void*>(this)));
   sync();
   // A menu popped up by the program is the menu bar's own, shown at the pointer.
   form_.PopupHandler = [this](Menu& m) {
@@ -215,15 +222,23 @@ QWidget* FormView::createWidget(Control* c) {
     case ControlKind::Line: w = new LineWidget(static_cast<Line&>(*c), parent); break;
     case ControlKind::VScrollBar: w = new QScrollBar(Qt::Vertical, parent); break;
     case ControlKind::HScrollBar: w = new QScrollBar(Qt::Horizontal, parent); break;
-    case ControlKind::CheckBox: w = new QCheckBox(parent); break;
+    case ControlKind::CheckBox:
+      w = new QCheckBox(parent);
+      w->setStyle(style_.get());
+      break;
     case ControlKind::OptionButton: {
       auto* r = new QRadioButton(parent);
+      r->setStyle(style_.get());
       r->setAutoExclusive(false);  // the controls decide which button is on
       w = r;
       break;
     }
     case ControlKind::CommandButton: w = new QPushButton(parent); break;
-    case ControlKind::TextBox: w = new QLineEdit(parent); break;
+    case ControlKind::TextBox:
+      // MultiLine is fixed when the window is made, as the runtime has it.
+      if (static_cast<TextBox&>(*c).MultiLine) w = new QPlainTextEdit(parent);
+      else w = new QLineEdit(parent);
+      break;
     case ControlKind::ListBox: case ControlKind::FileListBox: case ControlKind::DirListBox:
       w = new QListWidget(parent);
       break;
@@ -292,6 +307,12 @@ void FormView::apply(Entry& e) {
     w->setAutoFillBackground(true);
   }
   switch (e.kind) {
+    case ControlKind::Label: {
+      auto& l = static_cast<Label&>(c);
+      const QFont font = layoutFont(l.FontName, l.FontSize > 0 ? l.FontSize.get() : 8, l.FontBold);
+      if (w->font() != font) w->setFont(font);
+      break;
+    }
     case ControlKind::Frame: static_cast<QGroupBox*>(w)->setTitle(static_cast<Frame&>(c).Caption); break;
     case ControlKind::VScrollBar: case ControlKind::HScrollBar: {
       auto& s = static_cast<ScrollBar&>(c);
@@ -322,9 +343,13 @@ void FormView::apply(Entry& e) {
     }
     case ControlKind::CommandButton: static_cast<QPushButton*>(w)->setText(static_cast<CommandButton&>(c).Caption); break;
     case ControlKind::TextBox: {
-      auto* edit = static_cast<QLineEdit*>(w);
       const QString& text = static_cast<TextBox&>(c).Text;
-      if (edit->text() != text) edit->setText(text);
+      if (auto* edit = qobject_cast<QLineEdit*>(w)) {
+        if (edit->text() != text) edit->setText(text);
+      } else if (auto* lines = qobject_cast<QPlainTextEdit*>(w)) {
+        const QString shown = fromLineBreaks(text);
+        if (lines->toPlainText() != shown) lines->setPlainText(shown);
+      }
       break;
     }
     case ControlKind::ListBox: case ControlKind::FileListBox: case ControlKind::DirListBox: {
@@ -368,17 +393,51 @@ void FormView::applyForm() {
   if (form_.MousePointer == 0) central_->unsetCursor();
   else central_->setCursor(cursorFor(form_));
   central_->setAcceptDrops(form_.OLEDropEnabled);
-  if (window_->isVisible() != form_.Visible.get()) {
-    // A borderless maximized window covers the whole screen the program's window is on.
-    if (form_.Visible && form_.BorderStyle == 0 && form_.WindowState == 2) {
+  if (window_->isVisible() == form_.Visible.get()) return;
+  if (form_.Visible) {
+    // A modal window keeps the input from the others while the program waits for it to close.
+    window_->setWindowModality(form_.isModal() ? Qt::ApplicationModal : Qt::NonModal);
+    if (form_.BorderStyle == 0 && form_.WindowState == 2) {
+      // A borderless maximized window covers the whole screen the program's window is on.
       const QWidget* active = QApplication::activeWindow();
       if (QScreen* screen = active ? active->screen() : QGuiApplication::primaryScreen())
         window_->setGeometry(screen->geometry());
       window_->showFullScreen();
     } else {
-      window_->setVisible(form_.Visible);
+      window_->setVisible(true);
     }
+    if (form_.runtime().loop.windows().active() == &form_) activate();
+  } else {
+    window_->setVisible(false);
+    // The keys go to the window that is active now, not to nowhere or to the hidden one.
+    if (Form* now = form_.runtime().loop.windows().active())
+      for (QWidget* top : QApplication::topLevelWidgets())
+        if (FormView* other = viewOf(top); other && &other->form() == now && top->isVisible()) other->activate();
   }
+}
+
+FormView* FormView::viewOf(QWidget* window) {
+  return window ? static_cast<FormView*>(window->property(kViewProperty).value<void*>()) : nullptr;
+}
+
+void FormView::activate() {
+  if (QGuiApplication::platformName() != "offscreen") window_->raise();  // nothing to raise there
+  window_->activateWindow();
+  QApplication::setActiveWindow(window_.get());
+  // The control that had the focus in this window takes it again.
+  QWidget* w = widgetFor(form_.ActiveControl());
+  (w && w->isVisible() && w->focusPolicy() != Qt::NoFocus ? w : central_)->setFocus(Qt::ActiveWindowFocusReason);
+}
+
+QString fromLineBreaks(const QString& text) {
+  QString s = text;
+  return s.replace("\r\n", "\n");
+}
+
+QString toLineBreaks(const QString& text) {
+  QString s = text;
+  s.replace("\r\n", "\n");
+  return s.replace("\n", "\r\n");
 }
 
 }  // namespace qp

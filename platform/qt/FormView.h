@@ -17,10 +17,16 @@
 
 class QAction;
 class QMenu;
+class QStyle;
 
 namespace qp {
 
 class Menu;
+
+// A multi-line text box's widget shows plain line breaks; its Text holds them as "\r\n", as the
+// runtime's text boxes give them to the program.
+QString fromLineBreaks(const QString& text);
+QString toLineBreaks(const QString& text);
 
 class FormView : public QObject {
  public:
@@ -37,6 +43,10 @@ class FormView : public QObject {
   QAction* actionFor(const Menu* m) const;
   // Brings the widgets in step with the controls now.
   void sync();
+  // Makes this window the active one, its focused control taking the keys.
+  void activate();
+  // The view whose window this is, or null.
+  static FormView* viewOf(QWidget* window);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* e) override;
@@ -70,6 +80,7 @@ class FormView : public QObject {
   VisualControl* controlOf(QObject* widget) const;
 
   Form& form_;
+  std::unique_ptr<QStyle> style_;  // the check boxes' look; it outlives the widgets that use it
   std::unique_ptr<QMainWindow> window_;
   QWidget* central_;
   QTimer poll_;

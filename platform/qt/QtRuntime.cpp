@@ -83,6 +83,25 @@ void QtLoop::post(std::function<void()> fn) {
   QTimer::singleShot(0, &context_, [fn = std::move(fn)] { trap(fn); });
 }
 
+void QtLoop::runModal(const std::function<bool()>& done) {
+  // A script on screen plays the user: its next lines are the input, delivered from here.
+  if (hasInputSource()) {
+    feedUntil(done);
+    return;
+  }
+  if (done()) return;
+  // The user's input arrives through Qt's own loop, run here until the window hides.
+  QEventLoop nested;
+  nested_.push_back({&nested, &done});
+  nested.exec();
+  nested_.pop_back();
+}
+
+void QtLoop::windowHidden() {
+  for (const Nested& n : nested_)
+    if ((*n.done)()) n.loop->quit();
+}
+
 int QtMessageBoxes::MsgBox(const QString& prompt, int buttons, const QString& title) {
   QMessageBox box(QApplication::activeWindow());
   box.setWindowTitle(title);

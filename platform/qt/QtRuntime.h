@@ -2,6 +2,7 @@
 // The runtime on a real desktop: Qt's event loop and clock, real message boxes, the system
 // clipboard and the primary screen.
 #include <QElapsedTimer>
+#include <QEventLoop>
 #include <QObject>
 #include <QTimer>
 #include <map>
@@ -22,9 +23,16 @@ class QtLoop : public EventLoop {
   void timerDestroyed(Timer* t) override;
   void post(std::function<void()> fn) override;
   void waitUntil(std::int64_t until) override;
+  void runModal(const std::function<bool()>& done) override;
+  void windowHidden() override;
 
  private:
+  struct Nested {
+    QEventLoop* loop;
+    const std::function<bool()>* done;
+  };
   void fire(Timer* t);
+  std::vector<Nested> nested_;
   QElapsedTimer clock_;
   QObject context_;  // owns the QTimers and the posted calls, so they die with the loop
   std::map<Timer*, std::unique_ptr<QTimer>> timers_;

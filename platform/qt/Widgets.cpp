@@ -1,5 +1,7 @@
 #include "platform/qt/Widgets.h"
 
+#include <cmath>
+
 #include <QPaintEvent>
 #include <QPainter>
 #include <algorithm>
@@ -37,15 +39,31 @@ Qt::BrushStyle brushStyleFor(int fillStyle) {
 }
 }  // namespace
 
+QFont layoutFont(const QString& name, double points, bool bold) {
+  QFont font(name);
+  font.setPixelSize(std::max(1, static_cast<int>(std::lround(points * 10.0 / 8.0))));
+  font.setBold(bold);
+  return font;
+}
+
+int DesignStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
+  switch (metric) {
+    case PM_IndicatorWidth: case PM_IndicatorHeight: case PM_ExclusiveIndicatorWidth:
+    case PM_ExclusiveIndicatorHeight:
+      return 13;
+    case PM_CheckBoxLabelSpacing: case PM_RadioButtonLabelSpacing:
+      return 3;
+    default:
+      return QProxyStyle::pixelMetric(metric, option, widget);
+  }
+}
+
 LabelWidget::LabelWidget(Label& c, QWidget* parent) : QWidget(parent), c_(c) {}
 
 void LabelWidget::paintEvent(QPaintEvent*) {
   QPainter p(this);
   if (c_.BackStyle == 1) p.fillRect(rect(), toQColor(c_.BackColor));
-  QFont font(c_.FontName.get());
-  if (c_.FontSize.get() > 0) font.setPointSizeF(c_.FontSize.get());
-  font.setBold(c_.FontBold);
-  p.setFont(font);
+  p.setFont(font());  // the label's own font, which the view keeps in step with the control
   p.setPen(toQColor(c_.ForeColor));
   const int align = c_.Alignment == 1 ? Qt::AlignRight : c_.Alignment == 2 ? Qt::AlignHCenter : Qt::AlignLeft;
   p.drawText(rect(), align | Qt::AlignTop | Qt::TextWordWrap, c_.Caption.get());

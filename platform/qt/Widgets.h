@@ -2,7 +2,9 @@
 // The widgets that draw a control themselves: labels, shapes, lines, images and picture boxes.
 // The rest of the controls show as Qt's own widgets (see FormView).
 #include <QColor>
+#include <QFont>
 #include <QPointF>
+#include <QProxyStyle>
 #include <QWidget>
 
 #include "platform/Controls.h"
@@ -12,6 +14,23 @@ namespace qp {
 class PictureBox;
 
 inline QColor toQColor(Colour c) { return QColor(redOf(c), greenOf(c), blueOf(c)); }
+
+// A font as the windows' layout means it. The layout places controls at 15 twips a pixel and sized
+// every caption for the classic 8 point screen font, whose letters are as wide as Arial's at 10
+// pixels; so a size in points becomes pixels at that ratio (8 points, 10 pixels), whatever the
+// screen's own dots per inch, and screen scaling then enlarges type and controls alike. "Arial"
+// comes out as its metric twin where it is missing.
+QFont layoutFont(const QString& name, double points, bool bold = false);
+// The windows' own type, for every caption that does not name a font: the controls' default.
+inline QFont formFont() { return layoutFont("Arial", 8); }
+
+// Check boxes and option buttons as the layout was made for them: a 13 pixel box and 3 pixels
+// between it and the caption, where the desktop style leaves more and would cut the caption short.
+class DesignStyle : public QProxyStyle {
+ public:
+  int pixelMetric(PixelMetric metric, const QStyleOption* option = nullptr,
+                  const QWidget* widget = nullptr) const override;
+};
 
 class LabelWidget : public QWidget {
  public:

@@ -54,16 +54,26 @@ TEST_F(ColourEngineTest, RainbowMovesOneComponentByTheVarianceWithinItsFloorAndC
   EXPECT_GT(moved, 30);
 }
 
-TEST_F(ColourEngineTest, RainbowRefusesAStepPastTheCeiling) {
-  int kept = 0;
-  for (int i = 0; i < 60; ++i) {
-    setRunning({250, 250, 250});
-    StepRainbowColor(s(), 10);
-    const Rgb c = running();
-    for (int v : {c.r, c.g, c.b}) EXPECT_TRUE(v == 250 || v == 240) << v;
-    kept += c == Rgb{250, 250, 250};
+TEST_F(ColourEngineTest, RainbowStepsMayReachTheCeilingAndFloorButNotPassThem) {
+  // Each case: every component at `start`, the variance, the values a step may leave.
+  struct Case {
+    int start, variance, up, down;  // up or down: the value after that step, start when refused
+  };
+  for (const Case c : {Case{250, 10, 250, 240}, Case{245, 10, 255, 235}, Case{30, 10, 40, 20}, Case{25, 10, 35, 25}}) {
+    bool sawUp = false, sawDown = false;
+    for (int i = 0; i < 60; ++i) {
+      setRunning({c.start, c.start, c.start});
+      StepRainbowColor(s(), c.variance);
+      const Rgb now = running();
+      for (int v : {now.r, now.g, now.b}) EXPECT_TRUE(v == c.start || v == c.up || v == c.down) << c.start << ": " << v;
+      for (int v : {now.r, now.g, now.b}) {
+        sawUp |= v == c.start + c.variance;
+        sawDown |= v == c.start - c.variance;
+      }
+    }
+    EXPECT_EQ(sawUp, c.up != c.start) << "from " << c.start;
+    EXPECT_EQ(sawDown, c.down != c.start) << "from " << c.start;
   }
-  EXPECT_GT(kept, 10);  // every step up was refused, about half of all steps
 }
 
 TEST_F(ColourEngineTest, GlowStaysInItsHueFamilyAndLeavesOthersUntilAStepSucceeds) {
@@ -90,6 +100,29 @@ TEST_F(ColourEngineTest, GlowStaysInItsHueFamilyAndLeavesOthersUntilAStepSucceed
   StepGlowColor(s(), 30);
   EXPECT_EQ(m().ClrRed, 0);
   EXPECT_EQ(m().ClrGreen, m().ClrBlue);
+}
+
+TEST_F(ColourEngineTest, GlowDrivesEachFamilyFromItsOwnComponent) {
+  // Each Colour Option: the component that drives it, and the components of its family.
+  struct Case {
+    int option;
+    int Rgb::*driver;
+    Rgb family;
+  };
+  for (const Case c : {Case{0, &Rgb::b, {1, 1, 1}}, Case{1, &Rgb::r, {1, 0, 0}}, Case{2, &Rgb::g, {0, 1, 0}},
+                       Case{3, &Rgb::b, {0, 0, 1}}, Case{4, &Rgb::r, {1, 1, 0}}, Case{5, &Rgb::b, {0, 1, 1}},
+                       Case{6, &Rgb::b, {1, 0, 1}}}) {
+    f().vColors.Value = c.option;
+    const Rgb start{100, 150, 200};
+    setRunning(start);
+    StepGlowColor(s(), 10);
+    const int d = start.*c.driver;
+    const Rgb now = running();
+    for (const auto part : {&Rgb::r, &Rgb::g, &Rgb::b}) {
+      if (c.family.*part) EXPECT_TRUE(now.*part == d + 10 || now.*part == d - 10) << c.option << ": " << now.*part;
+      else EXPECT_EQ(now.*part, 0) << "option " << c.option;
+    }
+  }
 }
 
 TEST_F(ColourEngineTest, TransientGeneratorShakesTheComponentsDuringAStrokeOnly) {

@@ -16,19 +16,6 @@ class KeyboardTest : public PencilTest {
   }
 };
 
-TEST_F(KeyboardTest, EscEndsTheProgram) {
-  EXPECT_FALSE(program->quitRequested());
-  windowKeyDown(f(), vbKeyEscape);
-  EXPECT_TRUE(program->quitRequested());
-}
-
-TEST_F(KeyboardTest, CtrlIsHeldBetweenItsDownAndUp) {
-  windowKeyDown(f(), vbKeyControl);
-  EXPECT_EQ(f().CtrlDown, -1);
-  windowKeyUp(f(), vbKeyControl);
-  EXPECT_EQ(f().CtrlDown, 0);
-}
-
 TEST_F(KeyboardTest, EnterAndShiftJumpTheWidthToItsLimits) {
   key(vbKeyReturn);
   EXPECT_EQ(m().DrawWidth, 24);

@@ -56,9 +56,11 @@ TEST_F(WidthKeysTest, TheWidthStopsWhenItMeetsItsLimit) {
   keyUp(vbKeyUp);
   EXPECT_EQ(f().lTell.Caption.get(), "");
 
+  m().StepSize = 70;  // the spacing falls with the width, but not under 50
   keyDown(vbKeyDown);
   ticks(f().tPenDwn, 40);
   EXPECT_EQ(m().DrawWidth, 4);
+  EXPECT_EQ(m().StepSize, 50);
   EXPECT_FALSE(f().tPenDwn.Enabled);
   EXPECT_EQ(f().lTell.Caption.get(), "Minimum");
   EXPECT_EQ(f().lHelp.ForeColor.get(), 0x00FFFF);

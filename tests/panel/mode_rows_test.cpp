@@ -102,6 +102,8 @@ TEST_P(ModeRows, EnteringTheModeArmsItsRows) {
   }
   EXPECT_EQ(int(f().PanelRows), e.panelRows < 0 ? 4 : e.panelRows);
   EXPECT_EQ(f().lMode.Caption.get(), e.display ? e.display : "Shadow Text");
+  EXPECT_EQ(f().lModeB.Caption.get(), e.display ? e.display : "Shadow Text");
+  if (e.display) EXPECT_EQ(f().PriorMode, e.mode);
   EXPECT_EQ(f().lStats.Caption.get(), e.stats ? e.stats : "left alone");
 }
 

@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 
 #include <QBuffer>
+#include <QDir>
+#include <QFileInfo>
 #include <QImage>
 #include <QTemporaryDir>
 
@@ -105,6 +107,43 @@ TEST_F(ScriptRun, HiddenControlsTakeNoInput) {
   EXPECT_EQ(clicked, runner.resolve("cSwap") != nullptr);
 }
 
+TEST_F(ScriptRun, KeysGoToTheActiveWindowOnceTheFileWindowHides) {
+  // Each way the file window closes hands the keys back to the main window: Delete clears there.
+  f().lDrive.Caption = "/";
+  f().lDir.Caption = dir.path();
+  for (const char* close : {"click frmFile.cmdOK", "click frmFile.CmdCancel"}) {
+    const QString script = QString("menu mnuSave\ntype frmFile.TxtFile keys\n%1\nexpect frmFile.Visible 0\n"
+                                   "key Delete\nexpect pixel PicPaint 10 10 0x000000").arg(close);
+    f().PicPaint.Cls();
+    f().PicPaint.PSet(150, 150, 0xFFFFFF);  // a dot at pixel 10, 10 that Delete must clear
+    EXPECT_EQ(run(script), 0) << close << errors.toStdString();
+  }
+  EXPECT_TRUE(QFileInfo::exists(dir.filePath("keys.bmp")));
+}
+
+TEST_F(ScriptRun, AModalWindowTakesTheNextLinesUntilItHides) {
+  frmFile& d = session.program().w.file;
+  std::int64_t returnedAt = -1;
+  const std::int64_t start = session.rt().loop.now();
+  f().mnuSave.Click = [&] {
+    d.Show(true);
+    returnedAt = session.rt().loop.now();
+  };
+  // While the window is open its own controls take the lines; the main window takes none.
+  EXPECT_EQ(run("menu mnuSave\nwait 100\ntype frmFile.TxtFile abc\nmenu mPencil\nexpect PaintMode 16\n"
+                "expect frmFile.TxtFile.Text abc\nclick frmFile.CmdCancel\nwait 50\nexpect frmFile.Visible 0\n"
+                "menu mPencil\nexpect PaintMode 0"),
+            0) << errors.toStdString();
+  EXPECT_EQ(returnedAt, start + 100) << "Show returned when the window hid, before the lines after that";
+  err.flush();
+  EXPECT_TRUE(errors.contains("line 4: note: mToolz is behind a modal window")) << errors.toStdString();
+  // A script that ends with the window open leaves it open, and the run still ends.
+  returnedAt = -1;
+  EXPECT_EQ(run("menu mnuSave\nwait 10"), 0);
+  EXPECT_EQ(returnedAt, session.rt().loop.now());
+  EXPECT_TRUE(d.Visible);
+}
+
 TEST_F(ScriptRun, FilesAndTheClipboard) {
   QImage pic(8, 6, QImage::Format_RGB32);
   pic.fill(qRgb(10, 20, 30));
@@ -132,6 +171,18 @@ TEST_F(ScriptRun, ReadOutsOfPixelsAndProperties) {
   out.flush();
   EXPECT_EQ(printed, "pixel PicPaint 4 4 = 0xFFFFFF\npixel PicPaint -1 0 = -1\npPix.Visible = 0\nLastX = 60\n"
                      "frmCanvas.ActiveControl = \"PicPaint\"\nvPencil.Min = 160\n");
+  // The file lists' places, and a multi-line box that Enter breaks into lines.
+  f().Dir1.Path = dir.path();
+  f().fHelp.Visible = true;
+  f().txHelp.Text = "a";
+  printed.clear();
+  EXPECT_EQ(run("print File1.Path\nprint File1.Pattern\nprint Dir1.Path\nprint Drive1.Drive\nfocus txHelp\nkey Enter\n"
+                "print txHelp.Text\nprint txHelp.MultiLine"), 0) << errors.toStdString();
+  out.flush();
+  EXPECT_EQ(printed, QString("File1.Path = \"%1\"\nFile1.Pattern = \"*.bmp\"\nDir1.Path = \"%1\"\nDrive1.Drive = \"%2\"\n"
+                             "txHelp.Text = \"a\\n\"\ntxHelp.MultiLine = -1\n")
+                         .arg(dir.path(), DriveListBox::driveOf(QDir::currentPath())));
+  EXPECT_EQ(f().txHelp.Text.get(), "a\r\n");
 }
 
 TEST_F(ScriptRun, ScreenshotShowsTheWindow) {

@@ -6,30 +6,6 @@ namespace qp::test {
 
 using Modes = ProgramTest;
 
-TEST_F(Modes, EveryToolzItemShowsItsModeAndNumber) {
-  struct Expect { const char* menu; int mode; const char* display; };
-  const Expect all[] = {
-      {"mPencil", 0, "Freehand Pencil"}, {"mSingle", 1, "Draw Line"}, {"mSngBox", 2, "Draw Shapes"},
-      {"mAir", 3, "AirBrush"}, {"mShadow", 4, "Shadow Draw"}, {"mMirLine", 5, "Mirror Line"},
-      {"mEr", 6, "Eraser"}, {"mBrushes", 7, "Brushes"}, {"mBallz", 8, "Gradient Spheres"},
-      {"mBubble", 9, "Boxes N Bubblez"}, {"mCrazyLn", 10, "Crazy Linez"}, {"mCircFx", 11, "Circle FX"},
-      {"mSpir2", 12, "GeoSpiralz"}, {"mPwp", 14, "Paint w/Pix"}, {"mFF", 15, "FloodFill"},
-      {"mSpr3", 16, "Freehand Spiralz"}, {"mMini", 17, "Mini Gradients"}, {"mTxBrush", 20, "Text Brush"},
-      {"mText", 21, "3D Text"}, {"mCrzyPen", 23, "kRAzY peNCiL"}, {"mGpen", 24, "Mirror Draw"},
-      {"mtCvShapes", 25, "Canvas Gradients"}, {"mBluScrn", 26, "Paint w/TransPix"},
-      {"mShadTx", 29, "Shadow Text"}, {"mSaw", 30, "Polygons Plus"},
-  };
-  for (const Expect& e : all) {
-    auto* item = dynamic_cast<Menu*>(f().find(e.menu));
-    ASSERT_NE(item, nullptr) << e.menu;
-    item->raiseClick();
-    EXPECT_EQ(m().PaintMode, e.mode) << e.menu;
-    EXPECT_EQ(f().lMode.Caption.get(), e.display) << e.menu;
-    EXPECT_EQ(f().lModeB.Caption.get(), e.display) << e.menu;
-    EXPECT_EQ(f().PriorMode, e.mode) << e.menu;
-  }
-}
-
 TEST_F(Modes, SelectionItemsKeepTheDisplayOfTheModeBefore) {
   choose(f().mAir);
   choose(f().mSelClr);

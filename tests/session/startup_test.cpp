@@ -67,18 +67,6 @@ TEST_F(Startup, TitleNamesTheCanvasAndItsSize) {
   EXPECT_EQ(f().Caption.get(), QString(" Quillora Pro - cat.bmp   %1 x %2").arg(w).arg(h));
 }
 
-TEST(StartupOnSmallScreen, AdvisesAndFallsBackToSixFortyByFourEighty) {
-  HeadlessRuntime h;
-  h.screen.setSize(800, 600);
-  Program p(h.rt());
-  p.start();
-  ASSERT_EQ(h.msgbox.shown().size(), 1u);
-  EXPECT_EQ(h.msgbox.shown()[0].title, "Optimize Display...");
-  EXPECT_EQ(h.msgbox.shown()[0].prompt, "1024x768 Screen Resolution is recommended");
-  // Start-up goes on to size the window as designed afterwards, as it always does.
-  EXPECT_EQ(p.m.PaintMode, 16);
-}
-
 TEST_F(Startup, ClosingTheWindowLeavesThePictureOnTheClipboardAndExitDoesNot) {
   choose(f().mPencil);
   f().PicPaint.Line(0, 0, 300, 300, 0x00FF00);

@@ -26,6 +26,10 @@ TEST_F(AutoSizeTest, APictureGivesTheBoxItsSizeAndAnEmptyOneKeepsIt) {
   b.Picture = indexed;
   EXPECT_EQ(b.pixelWidth(), 5);
   EXPECT_EQ(px(b, 4, 3), 0x00FF00);
+  // A picture as wide as the box but taller still gives the box its height.
+  b.Picture = pic.copy(0, 0, 5, 9);
+  EXPECT_EQ(b.pixelHeight(), 9);
+  EXPECT_EQ(px(b, 4, 8), 0x00FF00);
 }
 
 TEST_F(AutoSizeTest, WithoutAutoSizeTheBoxKeepsItsSizeAndAnOversizedPictureIsRefused) {

@@ -1,4 +1,6 @@
 // The device calls (GetPixel, SetPixel, ExtFloodFill, TransparentBlt), PaintPicture and Print.
+#include <random>
+
 #include "SurfaceFixture.h"
 
 namespace qp::test {
@@ -20,26 +22,43 @@ TEST_F(DeviceTest, PixelsCarryRedInTheLowByte) {
 }
 
 TEST_F(DeviceTest, FloodFillTakesTheFourConnectedAreaOfExactlyThatColour) {
+  // Random walls on small boxes, each fill checked against a plain search of the area.
+  std::mt19937 rng(7);
+  for (int n = 0; n < 300; ++n) {
+    const int w = 2 + static_cast<int>(rng() % 9), h = 2 + static_cast<int>(rng() % 9);
+    PictureBox& b = box(w, h, 3, kWhite);
+    for (int y = 0; y < h; ++y)
+      for (int x = 0; x < w; ++x)
+        if (rng() % 5 < 2) SetPixel(b, x, y, rng() % 4 ? 0x000000 : 0xFEFFFF);  // nearly white walls too
+    const int sx = static_cast<int>(rng() % w), sy = static_cast<int>(rng() % h);
+    std::vector<char> want(w * h, 0);
+    std::vector<QPoint> todo;
+    if (px(b, sx, sy) == kWhite) todo.push_back({sx, sy});
+    while (!todo.empty()) {
+      const QPoint p = todo.back();
+      todo.pop_back();
+      if (p.x() < 0 || p.y() < 0 || p.x() >= w || p.y() >= h || want[p.y() * w + p.x()] || px(b, p.x(), p.y()) != kWhite)
+        continue;
+      want[p.y() * w + p.x()] = 1;
+      todo.insert(todo.end(), {p + QPoint(1, 0), p - QPoint(1, 0), p + QPoint(0, 1), p - QPoint(0, 1)});
+    }
+    b.FillStyle = 0;
+    b.FillColor = kRed;
+    EXPECT_EQ(ExtFloodFill(b, sx, sy, kWhite, 1), want[sy * w + sx] == 1);
+    int wrong = 0;
+    for (int y = 0; y < h; ++y)
+      for (int x = 0; x < w; ++x) wrong += (px(b, x, y) == kRed) != (want[y * w + x] == 1);
+    ASSERT_EQ(wrong, 0) << "box " << n << ", " << w << " x " << h << ", from " << sx << ", " << sy;
+  }
+  // No fill from outside the box, even one pixel past an edge; none with a transparent fill.
   PictureBox& b = box(20, 20, 3, kWhite);
-  // A closed diagonal wall: a fill that went corner to corner would leak through it.
-  for (int i = 0; i < 20; ++i) SetPixel(b, i, 19 - i, 0x000000);
-  SetPixel(b, 2, 2, 0xFEFFFF);  // nearly white is a border too
   b.FillStyle = 0;
   b.FillColor = kRed;
-  EXPECT_TRUE(ExtFloodFill(b, 0, 0, kWhite, 1));
-  EXPECT_EQ(px(b, 0, 0), kRed);
-  EXPECT_EQ(px(b, 17, 1), kRed);
-  EXPECT_EQ(px(b, 2, 2), 0xFEFFFF);
-  EXPECT_EQ(px(b, 19, 19), kWhite);  // beyond the diagonal
-  EXPECT_EQ(px(b, 10, 10), kWhite);
-  EXPECT_EQ(count(b, kRed), 19 * 20 / 2 - 1);
-
-  // Nothing happens when the seed is not the colour, or the fill is transparent.
-  EXPECT_FALSE(ExtFloodFill(b, 19, 19, kRed, 1));
+  for (const QPoint p : {QPoint(20, 0), QPoint(0, 20), QPoint(-1, 0), QPoint(0, -1), QPoint(20, 19), QPoint(19, 20)})
+    EXPECT_FALSE(ExtFloodFill(b, p.x(), p.y(), kWhite, 1)) << p.x() << ", " << p.y();
   b.FillStyle = 1;
   EXPECT_FALSE(ExtFloodFill(b, 19, 19, kWhite, 1));
-  EXPECT_EQ(px(b, 19, 19), kWhite);
-  EXPECT_FALSE(ExtFloodFill(b, 25, 0, kWhite, 1));
+  EXPECT_EQ(count(b, kWhite), 400);
 }
 
 TEST_F(DeviceTest, FloodFillFollowsASerpentineCorridor) {

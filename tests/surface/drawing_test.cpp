@@ -83,16 +83,22 @@ TEST_F(DrawingTest, WidePensHaveRoundEndsAndKeepTheirWidth) {
 
 TEST_F(DrawingTest, DrawStylesPatternOnlyOnePixelPens) {
   PictureBox& b = box(120, 20);
-  b.DrawStyle = 2;  // dot: three on, three off
-  b.Line(0, 5, 119, 5, kWhite);
-  EXPECT_EQ(px(b, 0, 5), kWhite);
-  EXPECT_EQ(px(b, 2, 5), kWhite);
-  EXPECT_EQ(px(b, 3, 5), 0);
-  EXPECT_EQ(count(b, kWhite), 60);
-  b.DrawStyle = 1;  // dash
-  b.Line(0, 8, 119, 8, kWhite);
-  EXPECT_EQ(px(b, 17, 8), kWhite);
-  EXPECT_EQ(px(b, 18, 8), 0);
+  // Each style's on and off runs from the start of the line: dash, dot, dash-dot, dash-dot-dot.
+  const std::pair<int, const char*> styles[] = {
+      {1, "18+6-18+6-"}, {2, "3+3-3+3-"}, {3, "9+6-3+6-9+"}, {4, "9+3-3+3-3+3-9+"}};
+  for (const auto& [style, runs] : styles) {
+    b.Cls();
+    b.DrawStyle = style;
+    b.Line(0, 5, 119, 5, kWhite);
+    QString seen;
+    for (int x = 0, run = 1; x < 60; ++x, ++run)
+      if (x == 59 || (px(b, x, 5) == kWhite) != (px(b, x + 1, 5) == kWhite)) {
+        seen += QString::number(run) + (px(b, x, 5) == kWhite ? "+" : "-");
+        run = 0;
+      }
+    EXPECT_TRUE(seen.startsWith(runs)) << "style " << style << ": " << seen.toStdString();
+  }
+  b.Cls();
   b.DrawStyle = 5;  // transparent pen
   b.Line(0, 12, 119, 12, kWhite);
   EXPECT_EQ(px(b, 50, 12), 0);
@@ -148,6 +154,11 @@ TEST_F(DrawingTest, CircleSizesByAspect) {
   r = extent(b, kWhite);
   EXPECT_NEAR(r.width(), 100, 1);
   EXPECT_NEAR(r.height(), 200, 1);
+
+  // A circle mostly off the bitmap still shows the part that is on it.
+  b.Cls();
+  b.Circle(-10, 200, 10, kWhite);
+  EXPECT_EQ(px(b, 0, 200), kWhite);
 
   b.Cls();
   b.Circle(200, 200, 50, kWhite);
