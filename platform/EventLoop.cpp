@@ -89,6 +89,8 @@ void VirtualLoop::waitUntil(std::int64_t until) {
   while (fireNextDue(until)) runPosted();
   now_ = std::max(now_, until);
   --depth_;
+}
+
 void VirtualLoop::runModal(const std::function<bool()>& done) {
   // Time moves only when an input says so (a script's wait), so there is nothing to wait for.
   runPosted();
