@@ -30,8 +30,8 @@ void wireColours(Session& s) {
   f.vColors.Change = [&s] { vColors_Change(s); };
   f.tGrad.Timer_ = [&s] { StepGradientColor(s); };
   f.tDclrz.Timer_ = [&s] { StepTransientColor(s); };
-  // Unticking Transient mid-stroke stops the generator; the release only stops it while ticked.
-  f.ckDcolz.Click = [&s] { trap([&] { if (s.f.ckDcolz.Value == 0) s.f.tDclrz.Enabled = false; }); };
+  // Transient's box has no Click of its own: it only says whether a press or a key starts the
+  // generator and whether their release stops it. Unticked mid-stroke, the generator runs on.
 
   f.pColor.MouseMove = mouse(s, pColor_MouseMove);
   f.pColor.MouseDown = mouse(s, pColor_MouseDown);

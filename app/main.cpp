@@ -52,9 +52,8 @@ bool parse(int argc, char** argv, Options& o) {
       o.mode = Options::Demo;
       o.file = more && argv[i + 1][0] != '-' ? argv[++i] : "demo.bmp";
     } else if (!std::strcmp(a, "--screen") && more) {
-      const QStringList wh = QString(argv[++i]).split('x');
-      if (wh.size() != 2 || wh[0].toInt() <= 0 || wh[1].toInt() <= 0) return false;
-      o.screen = QSize(wh[0].toInt(), wh[1].toInt());
+      o.screen = qp::script::parseScreenSize(QString(argv[++i]));
+      if (o.screen.isEmpty()) return false;
     } else if (!std::strcmp(a, "--monkey") && i + 2 < argc) {
       o.mode = Options::Monkey;
       bool ok1 = false, ok2 = false;

@@ -47,9 +47,6 @@ void resetPanel(Session& s) {
   f.vMin.Enabled = true;
   f.vMax.Enabled = true;
   f.cCan.ToolTipText = "";
-  // The Explorer panel's jokes belong to one mode each.
-  f.cPatt.ToolTipText = s.m.PaintMode == 14 ? kFilterJoke : "";
-  f.Dir1.ToolTipText = s.m.PaintMode == 0 ? kFolderJoke : "";
   HideGuides(s);
   f.cCan.Visible = false;
   f.Shadow(20).Visible = false;

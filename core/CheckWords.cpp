@@ -123,6 +123,12 @@ void clicked(Session& s, const std::vector<BoxWords>& table, CheckBox& box, Pane
 
 }  // namespace
 
+const char* checkBoxWord(int mode, int box) {
+  for (const BoxWords& w : box == 1 ? firstBox() : secondBox())
+    if (w.mode == mode) return w.on;
+  return nullptr;
+}
+
 void ckVal_Click(Session& s) { clicked(s, firstBox(), s.f.ckVal, &ToolHooks::ckValClick); }
 void ckVal2_Click(Session& s) { clicked(s, secondBox(), s.f.ckVal2, &ToolHooks::ckVal2Click); }
 

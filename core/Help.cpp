@@ -109,6 +109,7 @@ void wireHelp(Session& s) {
   f.fVal.MouseUp = rightPopsToolz;
   f.fColors.MouseUp = rightPopsToolz;
   wireJokes(s);
+  wireHoverHelp(s);  // after the jokes: a control with a joke tip speaks as well
 }
 
 }  // namespace qp

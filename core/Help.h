@@ -10,5 +10,7 @@ void ShowKeyList(Session& s);
 void mHelp_Click(Session& s);
 void PopupToolz(Session& s);  // the Toolz menu at the pointer
 void wireHelp(Session& s);
+// What the panel's rows, check boxes and width controls say in lHelp as the pointer passes.
+void wireHoverHelp(Session& s);
 
 }  // namespace qp

@@ -124,8 +124,8 @@ void ApplyModeRow(Session& s) {
       if (!b.enabled) bar.Enabled = false;
     }
     if (mode == 1) s.m.StepSize = 60;
-    // The mixing follows the bar even when its value stayed as it was.
-    if (mode == 23) ApplyCrazyDrawMode(s);
+    // Crazy Pencil's mixing follows the bar only through the bar's Change: entered with the bar
+    // already at its value, the mode keeps the DrawMode 13 of the entry and the row's earlier words.
     ApplyModeEntry(s);
     if (row.panelRows) {
       f.PanelRows = *row.panelRows;

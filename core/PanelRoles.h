@@ -20,6 +20,8 @@ void vVal_Change(Session& s, int row);
 // The check boxes' Click handlers.
 void ckVal_Click(Session& s);
 void ckVal2_Click(Session& s);
+// The word a check box (1 ckVal, 2 ckVal2) writes when set in a mode, or null for a mode without.
+const char* checkBoxWord(int mode, int box);
 
 // The mode's own items at entry: check boxes, groups, surfaces and quirks. Runs after the value
 // bars are set and before the panel height, the state word and the help cue.

@@ -90,6 +90,15 @@ void wireExplorer(Session& s) {
   };
   tell(f.File1, "Click to preview image file");
   tell(f.cPatt, "Click to toggle image file filter (*.bmp or *.jpg files)");
+  // The two jokes belong to one mode each and are chosen as the pointer passes, so that a mode
+  // reached without a mode change (a floating picture, a selection) shows neither.
+  f.cPatt.MouseMove = [&s, help = f.cPatt.MouseMove](int b, int sh, Single x, Single y) {
+    help(b, sh, x, y);
+    s.f.cPatt.ToolTipText = s.m.PaintMode == 14 ? kFilterJoke : "";
+  };
+  f.Dir1.MouseMove = [&s](int, int, Single, Single) {
+    s.f.Dir1.ToolTipText = s.m.PaintMode == 0 ? kFolderJoke : "";
+  };
   tell(f.cPic, "Click to select current image");
   tell(f.cCancel, "Click to close Explorer");
 }

@@ -1,15 +1,20 @@
 // Pictures from and to files through Qt's image readers, within the program's limits.
 #include "files/PictureFiles.h"
 
-#include <QBuffer>
 #include <QFile>
 #include <QImageReader>
 #include <QImageWriter>
 #include <QSaveFile>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <filesystem>
 #include <system_error>
 
 #include "platform/Errors.h"
+#include "platform/FileNames.h"
+#include "platform/PictureDecode.h"
 
 namespace qp {
 
@@ -25,7 +30,7 @@ constexpr qint64 kMaxPictureFileBytes = static_cast<qint64>(kMaxPicturePixels) *
 // are opened.
 void requirePlainFile(const QString& path) {
   std::error_code ec;
-  const std::filesystem::path p(QFile::encodeName(path).toStdString());
+  const std::filesystem::path p(bytesOfName(path).toStdString());
   const auto st = std::filesystem::status(p, ec);
   if (ec || st.type() == std::filesystem::file_type::not_found)
     raiseError(RuntimeError::FileNotFound, "File not found");
@@ -45,43 +50,41 @@ void limitDecoderMemory() {
 }  // namespace
 
 namespace {
-bool withinLimits(QSize size) {
-  return size.width() > 0 && size.height() > 0 && size.width() <= kMaxPictureSide &&
-         size.height() <= kMaxPictureSide &&
-         static_cast<long long>(size.width()) * size.height() <= kMaxPicturePixels;
+// Reads the whole file in one go: the decoders then take their many small reads from memory, where
+// reading them one by one from the file cost a third as much again as the decoding.
+QImage loadAccepted(const QString& path, const QList<QByteArray>& accepted) {
+  if (path.isEmpty()) return QImage();
+  requirePlainFile(path);
+  limitDecoderMemory();
+  // Opened without blocking and checked again once open: a pipe put in the file's place after the
+  // look above would otherwise hold the program until someone writes to it.
+  const int fd = ::open(bytesOfName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+  if (fd < 0) raiseError(RuntimeError::FileNotFound, "File not found");
+  struct stat st {};
+  if (::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode)) {
+    ::close(fd);
+    invalidPicture();
+  }
+  QFile file;
+  if (!file.open(fd, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
+    ::close(fd);
+    raiseError(RuntimeError::FileNotFound, "File not found");
+  }
+  if (file.size() > kMaxPictureFileBytes) invalidPicture();
+  const QByteArray data = file.readAll();
+  file.close();
+  const QImage picture = DecodePicture(data, accepted, {kMaxPicturePixels, kMaxPictureSide});
+  if (picture.isNull()) invalidPicture();
+  return picture;
 }
 }  // namespace
 
 QImage LoadPicture(const QString& path) {
-  if (path.isEmpty()) return QImage();
-  requirePlainFile(path);
-  limitDecoderMemory();
-  // The whole file in one read: the decoders then take their many small reads from memory, where
-  // reading them one by one from the file cost a third as much again as the decoding.
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) raiseError(RuntimeError::FileNotFound, "File not found");
-  if (file.size() > kMaxPictureFileBytes) invalidPicture();
-  QByteArray data = file.readAll();
-  file.close();
-  QBuffer buffer(&data);
-  buffer.open(QIODevice::ReadOnly);
-  QImageReader reader(&buffer);
-  // The content decides, not the name: a .jpg that is really a bitmap still opens, and nothing
-  // but these two formats is ever decoded.
-  reader.setDecideFormatFromContent(true);
-  const QByteArray format = reader.format();
-  if (format != "bmp" && format != "jpeg") invalidPicture();
-  const QSize claimed = reader.size();
-  if (claimed.isValid() && !withinLimits(claimed)) invalidPicture();
-  QImage picture;
-  if (!reader.read(&picture) || picture.isNull()) invalidPicture();
-  if (!withinLimits(picture.size())) invalidPicture();
-  if (picture.format() != QImage::Format_RGB32) {
-    picture = picture.convertToFormat(QImage::Format_RGB32);
-    if (picture.isNull()) raiseError(RuntimeError::OutOfMemory, "Out of memory");
-  }
-  return picture;
+  // Nothing but these two formats is ever decoded, whatever the name says.
+  return loadAccepted(path, {"bmp", "jpeg"});
 }
+
+QImage LoadAnyPicture(const QString& path) { return loadAccepted(path, {}); }
 
 void SavePicture(const QImage& picture, const QString& path) {
   if (picture.isNull()) raiseError(RuntimeError::InvalidPicture, "Invalid picture");

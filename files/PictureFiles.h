@@ -7,17 +7,22 @@
 #include <QImage>
 #include <QString>
 
+#include "platform/PictureDecode.h"
+
 namespace qp {
 
 // The largest picture a file may bring in: 64 million pixels (an 8192 x 8192 canvas).
-constexpr long long kMaxPicturePixels = 64LL * 1024 * 1024;
+constexpr long long kMaxPicturePixels = kPictureLimits.maxPixels;
 // The longest side a picture may have: as long as a surface may be.
-constexpr int kMaxPictureSide = 16384;
+constexpr int kMaxPictureSide = kPictureLimits.maxSide;
 
 // The picture in a .bmp or .jpg file, as 32-bit RGB so that it goes onto a surface without another
 // conversion. An empty path gives an empty picture. Missing files raise FileNotFound; anything
 // that is not a plain, readable, decodable picture within the limit raises InvalidPicture.
 QImage LoadPicture(const QString& path);
+// The same for a picture in any format Qt reads, within the same limits: a script's clipboard.
+// A pixel a short file does not give is black, on every path a picture comes in by.
+QImage LoadAnyPicture(const QString& path);
 
 // Writes the picture as a Windows bitmap. The bytes go to a temporary file beside the target,
 // which replaces the target only when complete: a failed save leaves an existing file untouched.

@@ -86,6 +86,19 @@ void ScrollBar::arrowDown() { stepBy(-SmallChange.get()); }
 void ScrollBar::pageUp() { stepBy(LargeChange); }
 void ScrollBar::pageDown() { stepBy(-LargeChange.get()); }
 
+bool ScrollBar::takeKey(int keyCode) {
+  enum { kPageUp = 33, kPageDown = 34, kEnd = 35, kHome = 36, kLeft = 37, kUp = 38, kRight = 39, kDown = 40 };
+  switch (keyCode) {
+    case kUp: case kLeft: arrowUp(); return true;
+    case kDown: case kRight: arrowDown(); return true;
+    case kPageUp: pageUp(); return true;
+    case kPageDown: pageDown(); return true;
+    case kHome: Value = Min.get(); return true;
+    case kEnd: Value = Max.get(); return true;
+    default: return false;
+  }
+}
+
 void ScrollBar::dragTo(int value) {
   const int lo = std::min<int>(Min, Max), hi = std::max<int>(Min, Max);
   const int v = std::clamp(value, lo, hi);
@@ -149,6 +162,25 @@ TextBox::TextBox(Form* form, Control* parent, QString name, int index)
     Text.setRaw(v);
     if (Change) Change();
   });
+}
+
+// The text is taken out of the property for the edit, so that the string has a single owner and
+// grows or shrinks in place instead of being copied whole for every key.
+void TextBox::typeChar(QChar c) { typeText(QString(c)); }
+
+void TextBox::typeText(const QString& typed) {
+  QString text = Text.get();
+  Text.setRaw(QString());
+  text += typed;
+  Text = std::move(text);
+}
+
+void TextBox::typeBackspace() {
+  if (Text.get().isEmpty()) return;
+  QString text = Text.get();
+  Text.setRaw(QString());
+  text.chop(text.endsWith("\r\n") ? 2 : 1);  // a line break goes as one
+  Text = std::move(text);
 }
 
 // ---------------------------------------------------------------------------------------------

@@ -80,6 +80,10 @@ class ScrollBar : public VisualControl {
   void pageUp();
   void pageDown();
   void dragTo(int value);  // raises Scroll for the drag, then Change at the drop
+  // A key to the focused bar, after its KeyDown: the arrows Up and Left press the top (left)
+  // arrow, Down and Right the other; Page Up and Page Down page; Home goes to Min and End to Max.
+  // Returns false for a key the bar does not take.
+  bool takeKey(int keyCode);
 
  private:
   void stepBy(int towardsMin);
@@ -132,6 +136,11 @@ class TextBox : public VisualControl {
   Prop<int> SelLength{this, 0};
   Prop<bool> MultiLine{this, false};
   std::function<void()> Change;
+  // A key typed at the end of the text, with Change. Each costs the same however long the text
+  // is already, so that typing a long text takes time in proportion to its length.
+  void typeChar(QChar c);
+  void typeText(const QString& typed);
+  void typeBackspace();
 };
 
 // A list: ListIndex -1 means nothing chosen; setting it raises Click; Text is the chosen entry.

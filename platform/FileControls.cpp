@@ -3,6 +3,12 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
+#include <algorithm>
+#include <dirent.h>
+#include <sys/stat.h>
+
+#include "platform/FileNames.h"
 
 namespace qp {
 
@@ -133,13 +139,29 @@ void FileListBox::Refresh() {
   // A chosen name that is still listed stays chosen, quietly: listing again is not a click.
   const QString chosen = FileName();
   Clear();
-  QDir dir(Path.get());
-  // Without QDir::CaseSensitive the pattern is case-blind: "*.bmp" lists "SKY.BMP" too. Without
-  // QDir::System no pipe or device is listed, whatever its name.
-  dir.setNameFilters({Pattern.get()});
-  dir.setFilter(QDir::Files);
-  dir.setSorting(QDir::Name | QDir::IgnoreCase);
-  for (const QString& name : dir.entryList()) AddItem(name);
+  // The pattern is case-blind: "*.bmp" lists "SKY.BMP" too.
+  const QRegularExpression fits = QRegularExpression::fromWildcard(Pattern.get(), Qt::CaseInsensitive);
+  QStringList names;
+  // The folder is read by its bytes, so that a name that is not UTF-8 is listed too. Each entry is
+  // looked at through any link: only what is (or leads to) a plain file is listed, never a folder,
+  // a pipe or a device, whatever its name.
+  if (DIR* dir = ::opendir(bytesOfName(Path.get()).constData())) {
+    while (const dirent* e = ::readdir(dir)) {
+      const QByteArray raw(e->d_name);
+      if (raw.startsWith('.')) continue;  // hidden files, and the folder and its parent
+      struct stat st {};
+      if (::fstatat(::dirfd(dir), e->d_name, &st, 0) != 0 || !S_ISREG(st.st_mode)) continue;
+      const QString name = nameFromBytes(raw);
+      // Matched as shown: the kept bytes are not text the pattern matcher takes.
+      if (fits.match(readableName(name)).hasMatch()) names << name;
+    }
+    ::closedir(dir);
+  }
+  std::sort(names.begin(), names.end(), [](const QString& a, const QString& b) {
+    const int c = a.compare(b, Qt::CaseInsensitive);
+    return c != 0 ? c < 0 : a < b;
+  });
+  for (const QString& name : names) AddItem(name);
   if (!chosen.isEmpty()) ListIndex.setRaw(static_cast<int>(items().indexOf(chosen)));
 }
 

@@ -4,9 +4,11 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QStringList>
 #include <QTextStream>
 #include <cstdio>
 
+#include "script/Limits.h"
 #include "script/Sessions.h"
 #include "app/Program.h"
 
@@ -22,7 +24,13 @@ bool readText(const QString& file, QString& text, QString& why) {
     why = f.errorString();
     return false;
   }
-  text = QString::fromUtf8(f.readAll());
+  // Read no further than the limit: a device such as /dev/zero never ends.
+  const QByteArray bytes = f.read(kMaxScriptBytes + 1);
+  if (bytes.size() > kMaxScriptBytes) {
+    why = QString("line %1: the script is larger than %2 bytes").arg(bytes.count('\n') + 1).arg(kMaxScriptBytes);
+    return false;
+  }
+  text = QString::fromUtf8(bytes);
   return true;
 }
 
@@ -42,6 +50,16 @@ int runParsed(std::vector<Command> commands, const QString& folder, bool show, Q
 }
 
 }  // namespace
+
+QSize parseScreenSize(const QString& text) {
+  const QStringList wh = text.split('x');
+  if (wh.size() != 2) return QSize();
+  bool okW = false, okH = false;
+  const int w = wh[0].toInt(&okW), h = wh[1].toInt(&okH);
+  // The screen is told in twips, fifteen to the pixel: a side past the limit would overflow.
+  if (!okW || !okH || w < 1 || h < 1 || w > kMaxScreenSide || h > kMaxScreenSide) return QSize();
+  return QSize(w, h);
+}
 
 int runScript(const QString& file, bool show, QSize screen) {
   QTextStream out(stdout), err(stderr);

@@ -16,6 +16,10 @@ int runDemo(const QString& outBmp);
 // Random, seeded inputs over every menu item, control and surface. 0 when the program survived.
 int runMonkey(long long events, std::uint32_t seed);
 
+// `--screen WxH`: the size in pixels, or an empty size for text that is not two whole numbers
+// from 1 to kMaxScreenSide.
+QSize parseScreenSize(const QString& text);
+
 // The demo's script text.
 QString demoScript(const QString& outBmp);
 

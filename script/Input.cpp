@@ -133,6 +133,8 @@ void Runner::keyDown(int code, int shift) {
   trap([&] {
     if (preview && form.KeyDown) form.KeyDown(code, shift);
     if (code != 0 && target->KeyDown) target->KeyDown(code, shift);
+    // What the handlers left of the key reaches the bar, as in the window.
+    if (auto* bar = dynamic_cast<ScrollBar*>(target); bar && code != 0) bar->takeKey(code);
   });
 }
 
@@ -155,10 +157,9 @@ void Runner::keyPress(int ascii) {
     if (ascii != 0 && target->KeyPress) target->KeyPress(ascii);
     // A character that no handler took away edits a text box, as its widget would.
     if (auto* t = dynamic_cast<TextBox*>(target); t && ascii != 0) {
-      const QString& text = t->Text.get();
-      if (ascii == 8) t->Text = text.left(text.size() - (text.endsWith("\r\n") ? 2 : 1));
-      else if (ascii >= 32) t->Text = text + QChar(ascii);
-      else if (ascii == 13 && t->MultiLine) t->Text = text + "\r\n";  // Enter starts a new line
+      if (ascii == 8) t->typeBackspace();
+      else if (ascii >= 32) t->typeChar(QChar(ascii));
+      else if (ascii == 13 && t->MultiLine) t->typeText("\r\n");  // Enter starts a new line
     }
   });
 }
@@ -210,37 +211,41 @@ Runner::Outcome Runner::set(const Command& c) {
   bool isNumber = false;
   const int n = c.text.trimmed().toInt(&isNumber, 0);
   auto needNumber = [&] { return error(c, QString("'%1' is not a whole number").arg(c.text)); };
-  if (auto* v = dynamic_cast<VisualControl*>(ctl); v && !dynamic_cast<Form*>(ctl) && !reachable(*v)) {
-    if (!quietUnreachable_) err_ << "line " << c.line << ": note: " << c.name << " is hidden or disabled; nothing changes" << Qt::endl;
-    return Outcome::Done;
-  }
+  // A value the control refuses is an error of the script, hidden control or not; only a value
+  // the control would take goes nowhere when the user cannot reach the control.
+  std::function<void()> apply;
   if (auto* bar = dynamic_cast<ScrollBar*>(ctl); bar && prop == "Value") {
     if (!isNumber) return needNumber();
     if (n < std::min<int>(bar->Min, bar->Max) || n > std::max<int>(bar->Min, bar->Max))
       return error(c, QString("%1 runs from %2 to %3").arg(c.name).arg(bar->Min.get()).arg(bar->Max.get()));
-    trap([&] { bar->dragTo(n); });  // the thumb dragged there: Scroll, then Change
+    apply = [bar, n] { bar->dragTo(n); };  // the thumb dragged there: Scroll, then Change
   } else if (auto* box = dynamic_cast<CheckBox*>(ctl); box && prop == "Value") {
     if (!isNumber || n < 0 || n > 2) return error(c, "a check box's Value is 0, 1 or 2");
-    trap([&] { box->Value = n; });
+    apply = [box, n] { box->Value = n; };
   } else if (auto* opt = dynamic_cast<OptionButton*>(ctl); opt && prop == "Value") {
     if (!isNumber) return needNumber();
-    trap([&] { opt->Value = n != 0; });
+    apply = [opt, n] { opt->Value = n != 0; };
   } else if (auto* text = dynamic_cast<TextBox*>(ctl); text && prop == "Text") {
-    trap([&] { text->Text = c.text; });
+    apply = [text, &c] { text->Text = c.text; };
   } else if (auto* list = dynamic_cast<ListBox*>(ctl); list && prop == "ListIndex") {
     if (!isNumber || n < -1 || n >= list->ListCount())
       return error(c, QString("%1 has entries 0 to %2").arg(c.name).arg(list->ListCount() - 1));
-    trap([&] { list->ListIndex = n; });
+    apply = [list, n] { list->ListIndex = n; };
   } else if (auto* form = dynamic_cast<Form*>(ctl); form && (prop == "Width" || prop == "Height")) {
     if (!isNumber || n < 0) return needNumber();
     // The user dragging the window's edge: the form hears of its new size in twips.
-    trap([&] {
+    apply = [form, &prop, n] {
       if (prop == "Width") form->Width = static_cast<float>(n);
       else form->Height = static_cast<float>(n);
-    });
+    };
   } else {
     return error(c, QString("a user cannot set %1.%2").arg(c.name, prop));
   }
+  if (auto* v = dynamic_cast<VisualControl*>(ctl); v && !dynamic_cast<Form*>(ctl) && !reachable(*v)) {
+    if (!quietUnreachable_) err_ << "line " << c.line << ": note: " << c.name << " is hidden or disabled; nothing changes" << Qt::endl;
+    return Outcome::Done;
+  }
+  trap(apply);
   host_.afterInput();
   return Outcome::Done;
 }

@@ -1,6 +1,7 @@
 // Reading a script: lines into commands, with a message naming the line when one is not right.
 #include <QStringList>
 
+#include "script/Limits.h"
 #include "script/Command.h"
 
 namespace qp::script {
@@ -190,7 +191,9 @@ class LineParser {
     }
     if (w == "wait") {
       c_.op = Op::Wait;
-      return need(2, "wait MS") && whole(1, c_.number, 0) && noMore(2, "wait MS");
+      if (!(need(2, "wait MS") && whole(1, c_.number, 0) && noMore(2, "wait MS"))) return false;
+      if (c_.number > kMaxWaitMs) return fail(QString("a wait is at most %1 ms (a day)").arg(kMaxWaitMs));
+      return true;
     }
     if (w == "drop") {
       c_.op = Op::Drop;
@@ -257,6 +260,10 @@ bool parseScript(const QString& text, std::vector<Command>& out, ParseError& err
   for (int i = 0; i < lines.size(); ++i) {
     QString l = lines[i];
     if (l.endsWith('\r')) l.chop(1);
+    if (l.size() > kMaxLineChars) {
+      err = {i + 1, QString("the line is longer than %1 characters").arg(kMaxLineChars)};
+      return false;
+    }
     if (!parseLine(l, i + 1, out, err)) return false;
   }
   return true;

@@ -186,6 +186,8 @@ bool Recorder::eventFilter(QObject* watched, QEvent* e) {
     auto* ke = static_cast<QKeyEvent*>(e);
     const int code = keyCodeFor(ke->key(), ke->modifiers());
     if (code == 0) return false;
+    // A held key is repeated downs and one up, as the window hands it to the program.
+    if (t == QEvent::KeyRelease && ke->isAutoRepeat()) return false;
     write(QString("key %1 %2%3").arg(keyNameForCode(code), t == QEvent::KeyPress ? "down" : "up",
                                      modWords(ke->modifiers() & ~Qt::KeypadModifier)));
     return false;

@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QImage>
 
+#include "files/PictureFiles.h"
 #include "platform/Controls.h"
 #include "platform/Errors.h"
 #include "platform/EventLoop.h"
@@ -217,7 +218,10 @@ Runner::Outcome Runner::clipboard(const Command& c) {
     return Outcome::Done;
   }
   if (c.op == Op::ClipboardLoad) {
-    QImage picture(inputFile(c.text));
+    // Through the program's own loading: a pipe or a device is refused, not waited on, and a short
+    // file's missing pixels are black.
+    QImage picture;
+    trap([&] { picture = LoadAnyPicture(inputFile(c.text)); });
     if (picture.isNull()) return error(c, QString("cannot read a picture from %1").arg(c.text));
     rt_.clipboard.SetData(picture);
     return Outcome::Done;
@@ -232,7 +236,13 @@ Runner::Outcome Runner::save(const Command& c) {
   auto* pb = dynamic_cast<PictureBox*>(resolve(c.name));
   if (!pb) return error(c, QString("'%1' is not a picture box").arg(c.name));
   const QImage image = pb->Image.get();
-  if (image.isNull() || !image.save(c.text, "BMP")) return error(c, QString("cannot write %1").arg(c.text));
+  // The program's own safe save: a full disk or a kill at any moment leaves the old file whole.
+  bool saved = false;
+  if (!image.isNull()) trap([&] {
+      SavePicture(image, c.text);
+      saved = true;
+    });
+  if (!saved) return error(c, QString("cannot write %1").arg(c.text));
   return Outcome::Done;
 }
 

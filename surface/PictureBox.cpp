@@ -49,10 +49,11 @@ void requireFinite(Single v) {
 void PictureBox::installRules() {
   Width.setSetter([this](const Single& w) { setOuterSize(w, Height); });
   Height.setSetter([this](const Single& h) { setOuterSize(Width, h); });
-  // A new background colour clears the bitmap, the Picture staying laid on it.
+  // A new background colour clears the bitmap, the Picture staying laid on it. The box keeps its
+  // size: only assigning a Picture resizes an AutoSize box, so a size given after the picture holds.
   BackColor.setSetter([this](const Colour& c) {
     BackColor.setRaw(c);
-    pictureAssigned();
+    clearTo(c);
   });
 
   ScaleMode.setSetter([this](const int& m) {
@@ -126,10 +127,25 @@ void PictureBox::setOuterSize(Single width, Single height) {
   const double ph = std::nearbyint(outerTwips(height) / 15.0);
   if (pw > raster::kMaxSide || ph > raster::kMaxSide || pw * ph > double(raster::kMaxPixels))
     raiseError(RuntimeError::OutOfMemory, "Out of memory");
+  const bool twipsScale = userScaleIsOwnTwips();
   Width.setRaw(width);
   Height.setRaw(height);
   resizeBitmap();
   applyScaleMode();
+  if (twipsScale) keepUserScaleInTwips();
+}
+
+// A user scale set to the box's own size in twips (as StopAllTools sets the canvas's) means twips,
+// and goes on meaning twips when the box takes a new size; any other user scale stays as set.
+bool PictureBox::userScaleIsOwnTwips() const {
+  return ScaleMode == 0 && ScaleLeft == 0 && ScaleTop == 0 &&
+         static_cast<double>(ScaleWidth) == outerTwips(Width) &&
+         static_cast<double>(ScaleHeight) == outerTwips(Height);
+}
+
+void PictureBox::keepUserScaleInTwips() {
+  ScaleWidth.setRaw(static_cast<Single>(outerTwips(Width)));
+  ScaleHeight.setRaw(static_cast<Single>(outerTwips(Height)));
 }
 
 // Growing keeps what is there and shows the back colour in the new part; shrinking drops the cut
@@ -207,6 +223,7 @@ void PictureBox::adoptPictureSize() {
   const Single unit = parentInPixels() ? 1.0f : 15.0f;
   const Single w = static_cast<Single>(pic.width()) * unit, h = static_cast<Single>(pic.height()) * unit;
   if (w == Width.get() && h == Height.get()) return;
+  const bool twipsScale = userScaleIsOwnTwips();
   Width.setRaw(w);
   Height.setRaw(h);
   // The bitmap is about to show the picture whole: share it rather than keep the old drawing.
@@ -218,6 +235,7 @@ void PictureBox::adoptPictureSize() {
     resizeBitmap();
   }
   applyScaleMode();
+  if (twipsScale) keepUserScaleInTwips();
 }
 
 void PictureBox::Cls() {

@@ -149,6 +149,8 @@ class PictureBox : public VisualControl {
   void adoptPictureSize();
   void resizeBitmap();
   void applyScaleMode();
+  bool userScaleIsOwnTwips() const;
+  void keepUserScaleInTwips();
   void clearTo(Colour c);
   void setOuterSize(Single width, Single height);
   void installRules();

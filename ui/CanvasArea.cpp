@@ -57,6 +57,8 @@ CanvasArea::CanvasArea(Form& f)
   pPix.FillStyle = 0;  // the flood fill paints solid in FillColor
   // The canvas, its twin and the holders take the size of the picture they are given.
   for (PictureBox* p : {&PicPaint, &pPix, &PicUndo, &pStash, &pTemp}) p->AutoSize = true;
+  // The second undo level holds the whole canvas as the first does, at the canvas's size.
+  pUn2.AutoSize = true;
   surface(pPX, 0, 0, 33, 33, 3, false, false, 0xE0E0E0);  // 495 twips, in pPix's pixels
   surface(pT1, 1560, 2760, 495, 495, 3, true, true, 0x808080);
 

@@ -112,6 +112,10 @@ bool FormView::keyEvent(QObject* watched, QEvent* e) {
   int code = keyCodeFor(ke->key(), ke->modifiers());
   if (e->type() == QEvent::KeyRelease) {
     if (code == 0) return false;
+    // Qt marks each auto-repeat with a release before its press; the runtime knows only repeated
+    // key downs and one key up when the key really comes up, and a timer stopped at every repeat
+    // would never run while the key is held.
+    if (ke->isAutoRepeat()) return drawnByWindow(target->kind());
     dispatch([&] {
       if (preview && form_.KeyUp) form_.KeyUp(code, shift);
       if (code != 0 && target->KeyUp) target->KeyUp(code, shift);
@@ -123,6 +127,12 @@ bool FormView::keyEvent(QObject* watched, QEvent* e) {
       if (preview && form_.KeyDown) form_.KeyDown(code, shift);
       if (code != 0 && target->KeyDown) target->KeyDown(code, shift);
     });
+  }
+  // A scroll bar moves by the runtime's rule, shared with the script runner, not by Qt's own.
+  if (auto* bar = dynamic_cast<ScrollBar*>(target); bar && keyCodeFor(ke->key(), ke->modifiers()) != 0) {
+    bool took = false;
+    if (code != 0) dispatch([&] { took = bar->takeKey(code); });
+    if (took || code == 0) return true;
   }
   int ascii = keyAsciiFor(*ke);
   const int typed = ascii;

@@ -26,6 +26,7 @@
 
 #include "platform/Controls.h"
 #include "platform/EventLoop.h"
+#include "platform/FileNames.h"
 #include "platform/qt/Widgets.h"
 #include "surface/PictureBox.h"
 
@@ -355,11 +356,13 @@ void FormView::apply(Entry& e) {
     case ControlKind::ListBox: case ControlKind::FileListBox: case ControlKind::DirListBox: {
       auto& l = static_cast<ListBox&>(c);
       auto* list = static_cast<QListWidget*>(w);
-      QStringList shown;
+      QStringList shown, wanted;
       for (int i = 0; i < list->count(); ++i) shown << list->item(i)->text();
-      if (shown != l.items()) {
+      // A file name that is not UTF-8 is shown with its odd bytes as letters.
+      for (const QString& item : l.items()) wanted << readableName(item);
+      if (shown != wanted) {
         list->clear();
-        list->addItems(l.items());
+        list->addItems(wanted);
       }
       list->setCurrentRow(l.ListIndex);
       break;

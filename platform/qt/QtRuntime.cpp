@@ -3,12 +3,14 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QFontDatabase>
+#include <QMimeData>
 #include <QMessageBox>
 #include <QScreen>
 #include <QWidget>
 #include <algorithm>
 
 #include "platform/Errors.h"
+#include "platform/PictureDecode.h"
 #include "platform/Timer.h"
 
 namespace qp {
@@ -143,7 +145,20 @@ void QtClipboard::Clear() { QGuiApplication::clipboard()->clear(); }
 
 void QtClipboard::SetData(const QImage& picture) { QGuiApplication::clipboard()->setImage(picture); }
 
-QImage QtClipboard::GetData() const { return QGuiApplication::clipboard()->image(); }
+// A picture another program put on the clipboard comes as the bytes of a file: it is decoded as
+// a file is, so that pixels its data does not give are black and not left-over memory.
+QImage QtClipboard::GetData() const {
+  const QClipboard* board = QGuiApplication::clipboard();
+  const QMimeData* mime = board->mimeData();
+  if (mime && !board->ownsClipboard()) {
+    for (const QString& type : mime->formats()) {
+      if (!type.startsWith("image/")) continue;
+      const QImage picture = DecodePicture(mime->data(type), {}, kPictureLimits);
+      if (!picture.isNull()) return picture;
+    }
+  }
+  return board->image();
+}
 
 namespace {
 // The screen the program's window is on: the full-screen spirals cover that one.

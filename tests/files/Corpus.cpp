@@ -30,7 +30,66 @@ int frameHeader(const QByteArray& jpg) {
   return -1;
 }
 
+// A bitmap file: a 40-byte header, a palette for 8 bits or fewer, then the given pixel bytes.
+QByteArray bitmapFile(int w, int h, int bits, int compression, const QByteArray& pixels,
+                      qint32 offset = -1) {
+  const int colours = bits <= 8 ? 1 << bits : 0;
+  const int start = 54 + colours * 4;
+  QByteArray b(start, '\0');
+  b[0] = 'B';
+  b[1] = 'M';
+  put32(b, 2, start + static_cast<qint32>(pixels.size()));
+  put32(b, 10, offset < 0 ? start : offset);
+  put32(b, 14, 40);
+  put32(b, 18, w);
+  put32(b, 22, h);
+  put16(b, 26, 1);
+  put16(b, 28, bits);
+  put32(b, 30, compression);
+  // Palette: 0 blue (so that a missing pixel shown as index 0 is told from black), 1 white.
+  if (colours > 0) {
+    put32(b, 54, 0x0000FF);
+    put32(b, 58, 0xFFFFFF);
+  }
+  return b + pixels;
+}
+
+// The expected picture: black, with white rectangles where the data gives pixels.
+QImage blackWith(int w, int h, std::initializer_list<QRect> white) {
+  QImage img(w, h, QImage::Format_RGB32);
+  img.fill(qRgb(0, 0, 0));
+  for (const QRect& r : white)
+    for (int y = r.top(); y <= r.bottom(); ++y)
+      for (int x = r.left(); x <= r.right(); ++x) img.setPixel(x, y, qRgb(255, 255, 255));
+  return img;
+}
+
 }  // namespace
+
+QList<ShortBitmap> shortBitmaps() {
+  QList<ShortBitmap> list;
+  const int w = 40, h = 30;
+  const QByteArray whiteRows24 = QByteArray(w * 3 * 10 + 50, '\xFF');  // ten rows and part of one
+  list.append({"short-1000.bmp", bitmapFile(1000, 1000, 24, 0, QByteArray(256, '\xFF')),
+               blackWith(1000, 1000, {})});
+  list.append({"cut-rows.bmp", bitmapFile(w, h, 24, 0, whiteRows24), blackWith(w, h, {QRect(0, 20, w, 10)})});
+  list.append({"cut-top-down.bmp", bitmapFile(w, -h, 24, 0, whiteRows24), blackWith(w, h, {QRect(0, 0, w, 10)})});
+  list.append({"cut-palette.bmp", bitmapFile(w, h, 8, 0, QByteArray(w * 10 + 7, '\x01')),
+               blackWith(w, h, {QRect(0, 20, w, 10)})});
+  list.append({"far-offset-100.bmp", bitmapFile(100, 100, 24, 0, QByteArray(3000, '\xFF'), 0x10000000),
+               blackWith(100, 100, {})});
+  QByteArray early8;  // five rows of forty white pixels, then the data stops
+  for (int i = 0; i < 5; ++i) early8 += QByteArray("\x28\x01\x00\x00", 4);
+  list.append({"rle8-early.bmp", bitmapFile(w, h, 8, 1, early8), blackWith(w, h, {QRect(0, 25, w, 5)})});
+  // Ten white, a skip of twenty to the right and two rows up, ten white, the end of the picture.
+  const QByteArray skip8("\x0A\x01\x00\x02\x14\x02\x0A\x01\x00\x01", 10);
+  list.append({"rle8-skip.bmp", bitmapFile(w, h, 8, 1, skip8),
+               blackWith(w, h, {QRect(0, 29, 10, 1), QRect(30, 27, 10, 1)})});
+  QByteArray early4;  // three rows at four bits a pixel, then the data stops
+  for (int i = 0; i < 3; ++i) early4 += QByteArray("\x28\x11\x00\x00", 4);
+  list.append({"rle4-early.bmp", bitmapFile(w, h, 4, 2, early4), blackWith(w, h, {QRect(0, 27, w, 3)})});
+  return list;
+}
 
 QImage patternPicture(int w, int h) {
   QImage img(w, h, QImage::Format_RGB32);
@@ -143,6 +202,7 @@ Corpus makeCorpus(const QString& folder) {
   c.files << dir.filePath("folder.bmp");
   const QString pipe = dir.filePath("pipe.bmp");
   if (::mkfifo(QFile::encodeName(pipe).constData(), 0600) == 0) c.files << pipe;
+  for (const ShortBitmap& b : shortBitmaps()) add(b.name, b.bytes);
   c.vanishing = dir.filePath("vanishing.bmp");
   write(c.vanishing, bmp);
   c.files << c.vanishing;

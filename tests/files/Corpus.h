@@ -16,6 +16,18 @@ QByteArray bitmapBytes(int w, int h, int claimedW, int claimedH, int bitsPerPixe
 QImage patternPicture(int w, int h);
 QByteArray encode(const QImage& picture, const char* format, int quality = -1);
 
+// A bitmap whose data holds less than its header promises, with the picture a load must give:
+// what the data holds, and black where it holds nothing.
+struct ShortBitmap {
+  QString name;
+  QByteArray bytes;
+  QImage expected;
+};
+// Truncated and short bitmaps of every kind a decoder reads: plain rows bottom-up and top-down,
+// a palette, run-length data that ends early or skips pixels, a pixel offset past the end, and a
+// 1000 x 1000 picture with 256 bytes of pixels.
+QList<ShortBitmap> shortBitmaps();
+
 struct Corpus {
   QString folder;
   QStringList files;  // every entry to try, by full path (the folder and pipe included)

@@ -104,14 +104,29 @@ TEST_F(OpenTest, ClosingThePanelBringsBackThePointerAndTheHelpLineNamesEachContr
 }
 
 TEST_F(OpenTest, TheJokesShowInTheirOwnModeOnly) {
+  auto pass = [&] {
+    f().Dir1.raiseMouseMove(0, 0, 10, 10);
+    f().cPatt.raiseMouseMove(0, 0, 10, 10);
+  };
   choose(f().mPencil);
+  pass();
   EXPECT_EQ(f().Dir1.ToolTipText.get(), kFolderJoke);
   EXPECT_EQ(f().cPatt.ToolTipText.get(), "");
   choose(f().mPwp);
+  pass();
   EXPECT_EQ(f().cPatt.ToolTipText.get(), kFilterJoke);
   EXPECT_EQ(f().Dir1.ToolTipText.get(), "");
   choose(f().mAir);
+  pass();
   EXPECT_EQ(f().cPatt.ToolTipText.get(), "");
+  // A pasted picture floats in mode 22 with no mode change: the pencil's joke goes at the next pass.
+  choose(f().mPencil);
+  pass();
+  headless.clipboard.SetData(patternPicture(8, 8));
+  choose(f().mnuPaste);
+  ASSERT_EQ(m().PaintMode, 22);
+  pass();
+  EXPECT_EQ(f().Dir1.ToolTipText.get(), "");
 }
 
 TEST_F(OpenTest, ALockedCanvasRefusesOpenButTakesADroppedFile) {

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "platform/Headless.h"
+#include "surface/Device.h"
 #include "app/Program.h"
 
 namespace qp::test {
@@ -24,8 +25,14 @@ class ProgramTest : public ::testing::Test {
   void move(Single x, Single y, int button = vbLeftButton) { f().PicPaint.raiseMouseMove(button, 0, x, y); }
   void release(Single x, Single y, int button = vbLeftButton) { f().PicPaint.raiseMouseUp(button, 0, x, y); }
   void choose(Menu& item) { item.raiseClick(); }
-  // The pixel of the canvas at a pixel position, as 0xBBGGRR.
-  Colour pixel(int x, int y) { return f().PicPaint.Point(x * 15.0f, y * 15.0f); }
+  // The pixel of the canvas's bitmap at a pixel position, as 0xBBGGRR. A position outside the
+  // bitmap fails the test: a canvas of the wrong size must not pass for one that holds the expected
+  // colour (read through the scale, a small bitmap would answer for a large canvas).
+  Colour pixel(int x, int y) {
+    const Colour c = GetPixel(f().PicPaint, x, y);
+    if (c == -1) ADD_FAILURE() << "pixel " << x << ", " << y << " is outside the canvas";
+    return c;
+  }
 
   HeadlessRuntime headless;
   std::unique_ptr<Program> program;

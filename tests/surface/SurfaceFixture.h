@@ -24,7 +24,12 @@ class SurfaceTest : public ::testing::Test {
     return *boxes.back();
   }
 
-  static Colour px(const PictureBox& b, int x, int y) { return GetPixel(b, x, y); }
+  // Reading outside the bitmap fails the test instead of giving a colour to compare.
+  static Colour px(const PictureBox& b, int x, int y) {
+    const Colour c = GetPixel(b, x, y);
+    if (c == -1) ADD_FAILURE() << "pixel " << x << ", " << y << " is outside the surface";
+    return c;
+  }
 
   static int count(const PictureBox& b, Colour c) {
     int n = 0;
