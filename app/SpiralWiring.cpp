@@ -16,8 +16,10 @@ namespace {
 
 void wireCanvasSpirals(Session& s) {
   frmCanvas& f = s.f;
-  f.ckVal.MouseMove = [&s](int, int, Single, Single) {
-    if (s.m.PaintMode == 16 || s.m.PaintMode == 28) ckVal_MouseMoveSpiral(s);
+  // The spirals' words for the box come after its general help, which they replace here.
+  f.ckVal.MouseMove = [&s, before = f.ckVal.MouseMove](int b, int sh, Single x, Single y) {
+    if (before) before(b, sh, x, y);
+    if (s.m.PaintMode == 16 || s.m.PaintMode == 28) trap([&] { ckVal_MouseMoveSpiral(s); });
   };
   f.pPX.MouseDown = [&s](int b, int sh, Single x, Single y) { pPX_MouseDown(s, b, sh, x, y); };
   f.pPX.MouseMove = [&s](int b, int sh, Single x, Single y) { pPX_MouseMove(s, b, sh, x, y); };
