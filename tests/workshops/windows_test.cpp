@@ -163,6 +163,28 @@ TEST_F(WorkshopTest, TheExplorerPanelLoadsWhatItPreviewsAndPassesOverABrokenFile
   EXPECT_FALSE(blend().cGo.Enabled);  // the first picture is still missing
 }
 
+TEST_F(WorkshopTest, TheBackgroundShowsThroughTheOpenCellsOfTheCheckeredStyles) {
+  solid(4, 4, 0xFF0000FF).save(QDir(folder.path()).filePath("bg.bmp"), "BMP");
+  choose(f().mTileSet);
+  tile().mLdBg.raiseClick();
+  tile().explorer.Dir1.Path = folder.path();
+  tile().explorer.File1.ListIndex = static_cast<int>(tile().explorer.File1.items().indexOf("bg.bmp"));
+  tile().explorer.File1.raiseMouseDown(vbLeftButton, 0, 0, 0);
+  tile().cBG.raiseClick();
+  ASSERT_TRUE(tile().ckBG.Visible);
+  paste(tile().mPaste, solid(4, 4, 0xFFFF0000));
+  // Style 8 at the preset 7 x 7 leaves the second cell of the first row open.
+  struct Case { int style; int background; QRgb open; };
+  for (const Case c : {Case{8, 1, 0xFF0000FF}, {8, 0, 0xFF000000}, {2, 1, 0xFF0000FF}}) {
+    tile().vTile.Value = c.style;
+    tile().ckBG.Value = c.background;
+    tile().cTile.raiseClick();
+    headless.loop.advance(500);
+    EXPECT_EQ(pixelOf(tile().pLO, 136, 30), c.open) << c.style << " " << c.background;
+    EXPECT_EQ(pixelOf(tile().pLO, 45, 30), 0xFFFF0000u) << c.style;
+  }
+}
+
 // ---- Image Blender -----------------------------------------------------------------------------
 
 TEST_F(WorkshopTest, BlendPixMixesAtThePercentageAfterItsWait) {
@@ -181,6 +203,11 @@ TEST_F(WorkshopTest, BlendPixMixesAtThePercentageAfterItsWait) {
   EXPECT_EQ(blend().pTemp.bitmap().size(), QSize(640, 480));
   EXPECT_EQ(pixelOf(blend().pTemp, 300, 300), qRgb(2, 150, 128));
   blend().vVal.arrowUp();
+  EXPECT_EQ(blend().lVal.Caption.get(), "60%");
+  // Back from BlueScreen the bar steps by ten percent again, from fifty.
+  blend().mBlue.raiseClick();
+  blend().mBlend.raiseClick();
+  blend().vVal.pageUp();
   EXPECT_EQ(blend().lVal.Caption.get(), "60%");
 }
 
