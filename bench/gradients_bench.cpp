@@ -101,7 +101,8 @@ void BM_BareDiamondLines(benchmark::State& state) {
   for (auto _ : state)
     for (int i = 255; i >= 0; --i) {
       const double lo = 1 - i / 255.0, hi = 1 + i / 255.0;
-      const qp::Colour c = qp::RGB(254 - i, 254 - i, 254 - i);
+      const int v = i == 255 ? 0 : 254 - i;  // the colour changes after each ring
+      const qp::Colour c = qp::RGB(v, v, v);
       pic.Line(cx * lo, cy, cx, cy * lo, c);
       pic.LineTo(cx * hi, cy, c);
       pic.LineTo(cx, cy * hi, c);

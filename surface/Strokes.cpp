@@ -139,7 +139,9 @@ void strokeSegment(PixelWriter& out, double ax, double ay, double bx, double by,
   }
   if (!clipSegment(ax, ay, bx, by, -m, -m, out.width() - 1 + m, out.height() - 1 + m)) return;
   const int x0 = toPixelInt(ax), y0 = toPixelInt(ay), x1 = toPixelInt(bx), y1 = toPixelInt(by);
-  if (width <= 1) {
+  if (width <= 1 && y0 == y1 && !(style >= 1 && style <= 4)) {
+    out.span(y0, x0, x1);  // a solid level line is one span: the same pixels, without stepping
+  } else if (width <= 1) {
     thinSegment(out, x0, y0, x1, y1, style);
   } else {
     const Segment g{double(x0), double(y0), double(x1), double(y1)};

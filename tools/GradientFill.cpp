@@ -95,7 +95,12 @@ void DrawLinearRamp(PictureBox& target, Colour from, Colour to, double x1, doubl
   const double Last = vertical ? x2 : y2;
   const double span = Last - First;
   const auto channel = [&](int a, int b, double i) { return CInt(a + divide(b - a, span) * (i - First)); };
+  // Lines 10 units apart may fall on the same pixel row; with the copy pen the later one covers the
+  // earlier exactly, so only the last of each row is drawn.
+  const bool copyPen = target.DrawMode == 13;
+  const auto pixelOf = [&](double i) { return roundHalfEven(vertical ? target.toPixelX(i) : target.toPixelY(i)); };
   for (double i = First; i <= Last; i += 10) {
+    if (copyPen && i + 10 <= Last && pixelOf(i) == pixelOf(i + 10)) continue;
     const Colour c = RGB(channel(R1, R2, i), channel(G1, G2, i), channel(B1, B2, i));
     const auto v = static_cast<Single>(i);
     if (vertical)

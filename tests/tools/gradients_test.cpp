@@ -29,7 +29,7 @@ TEST_F(GradientFill, SquaresStepFromBlackAtTheEdgeToTheCentre) {
   }
 }
 
-TEST_F(GradientFill, DiamondsCloseInFromBlackToTheLastStepAndStopWhenAsked) {
+TEST_F(GradientFill, DiamondsCloseInFromBlackToTheLastStep) {
   PictureBox& b = box(101, 101, 1, 0x00FF00);
   int rings = 0;
   EXPECT_TRUE(DrawDiamonds(b, 3, [&] { return ++rings > 0; }));
@@ -37,11 +37,6 @@ TEST_F(GradientFill, DiamondsCloseInFromBlackToTheLastStepAndStopWhenAsked) {
   EXPECT_LT(px(b, 0, 50), 0x080000);  // the outer rings, nearly black
   EXPECT_EQ(px(b, 50, 50), 0xFE0000);  // the centre, blue 254
   EXPECT_EQ(px(b, 2, 2), 0x00FF00);    // outlines only: the corners keep what was there
-
-  PictureBox& stopped = box(101, 101, 1, 0x00FF00);
-  rings = 0;
-  EXPECT_FALSE(DrawDiamonds(stopped, 0, [&] { return ++rings < 10; }));
-  EXPECT_EQ(px(stopped, 50, 50), 0x00FF00);
 }
 
 TEST_F(GradientFill, CircleChannelsMoveOnlyWhenTheirDistanceIsLarge) {
@@ -106,20 +101,6 @@ TEST_F(CanvasGradients, EveryStyleFillsTheCanvasAndIsAnUndoPoint) {
   }
 }
 
-TEST_F(CanvasGradients, TheRampRunsDownOrAcrossAndSwapsWithTheColours) {
-  m().ForeClr = 0xFFFFFF;
-  m().BackClr = 0x000000;
-  style(3);
-  draw();
-  EXPECT_EQ(pixel(10, 0), 0xFFFFFF);
-  EXPECT_LT(pixel(10, 99) & 0xFF, 5);
-  f().opVert(1).Value = true;
-  EXPECT_EQ(f().CanvasGradDir, -1);
-  draw();
-  EXPECT_EQ(pixel(0, 50), 0xFFFFFF);
-  EXPECT_LT(pixel(199, 50) & 0xFF, 5);
-}
-
 TEST_F(CanvasGradients, ADimRowIgnoresItsBarAndALiveOneSaysItsValue) {
   const int before = f().GradStepSize;
   f().vVal2.arrowUp();  // the diamonds use no intensity: the row is dim
@@ -133,12 +114,6 @@ TEST_F(CanvasGradients, ADimRowIgnoresItsBarAndALiveOneSaysItsValue) {
   EXPECT_EQ(f().lTell.Caption.get(), "Click arrows to set Squares Intensity   Current Intensity : 7");
   f().vVal3.Value = 12;  // the circles' row is dim while squares are chosen
   EXPECT_EQ(f().lStats.Caption.get(), "Intensity : 7");
-  style(2);
-  f().vVal3.Value = 9;
-  EXPECT_EQ(f().lVal3.ToolTipText.get(), "Aspect : 9");
-  EXPECT_EQ(f().lTell.Caption.get(), "Click arrows to set Circles Aspect ratio   Current Aspect : 9");
-  f().cCan.raiseMouseMove(0, 0, 10, 10);
-  EXPECT_EQ(f().cCan.ToolTipText.get(), "Click to draw gradient");
 }
 
 TEST_F(CanvasGradients, AnEventDuringTheDiamondsStopsThemOrStartsAnew) {
@@ -168,51 +143,6 @@ TEST_F(CanvasGradients, TinyAndWideCanvasesTakeEveryStyle) {
     }
     EXPECT_EQ(at(f().PicPaint.pixelWidth() - 1, 0), 0xFFFFFF) << w;  // the ramp's first line
   }
-}
-
-// ---- Gradient Shapes: drag, float, set or put away ----
-
-class GradientShapes : public ProgramTest {
- protected:
-  void SetUp() override {
-    ProgramTest::SetUp();
-    f().PicPaint.Picture = QImage();
-    choose(f().mMini);
-    f().vVal1.Value = 1;  // squares: quick, and full to the block's edges
-    m().ColorOption = 0;
-  }
-  void drag(Single x1, Single y1, Single x2, Single y2) {
-    press(x1, y1);
-    move(x2, y2);
-    release(x2, y2);
-  }
-};
-
-TEST_F(GradientShapes, ADraggedBlockFloatsPulsingUntilAPressSetsIt) {
-  drag(1500, 1500, 600, 300);  // dragged up and left
-  ASSERT_TRUE(f().pSpire.Visible);
-  EXPECT_EQ(f().pSpire.Left, 600);
-  EXPECT_EQ(f().pSpire.Width, 900);
-  EXPECT_EQ(pixel(70, 60), 0x000000);  // floating, not yet on the canvas
-  EXPECT_EQ(f().DrawShape.BorderColor, 0xC0C0C0);
-  headless.loop.advance(200);
-  EXPECT_EQ(f().DrawShape.BorderColor, 0xE0E0E0);
-  f().pSpire.raiseMouseDown(vbLeftButton, 0, 10, 10);
-  EXPECT_FALSE(f().pSpire.Visible);
-  EXPECT_EQ(pixel(70, 60), RGB(200, 200, 200));  // the block's centre
-  release(15, 15, vbRightButton);  // setting it was an undo point
-  EXPECT_EQ(pixel(70, 60), 0x000000);
-}
-
-TEST_F(GradientShapes, ARightClickPutsTheBlockAwayAndATinyDragDrawsNothing) {
-  drag(1500, 1500, 3000, 3000);
-  f().pSpire.raiseMouseUp(vbRightButton, 0, 10, 10);
-  EXPECT_FALSE(f().pSpire.Visible);
-  EXPECT_FALSE(f().tTemp.Enabled);
-  EXPECT_EQ(pixel(150, 150), 0x000000);
-  drag(1500, 1500, 3000, 1503);
-  EXPECT_FALSE(f().pSpire.Visible);
-  EXPECT_FALSE(f().DrawShape.Visible);
 }
 
 }  // namespace
