@@ -103,6 +103,7 @@ TEST_F(FreehandTest, MiniSpiralsDrawInADraggedBoxThatIsSetWithCtrlAndRightClick)
   EXPECT_EQ(box.Left.get(), 40);
   box.raiseMouseDown(vbLeftButton, 0, 300, 250);
   box.raiseMouseMove(vbLeftButton, 0, 350, 300);
+  EXPECT_EQ(f().PixLastRadius, 50);  // Orbital: the rings fan out of the press's ring
   box.raiseMouseUp(vbLeftButton, 0, 350, 300);
   EXPECT_GT(litPixels(box, 0), 0);
   EXPECT_EQ(litPixels(pix()), 0);

@@ -85,6 +85,7 @@ TEST_F(GeoSpiralTest, EachEquationDrawsItsOwnFigureAroundTheCentre) {
 TEST_F(GeoSpiralTest, RadiusEquationsAtTheirEdges) {
   EXPECT_DOUBLE_EQ(SpiralEquation(6, 0, 90, 3, 4, 1.0), 60.0);  // (4 mod 3 + 1) / 3
   EXPECT_DOUBLE_EQ(SpiralEquation(1, 0, 100, 3, 40, 1.0), 60.0);
+  EXPECT_NEAR(SpiralEquation(11, 0, 64, 1, 1, std::asin(0.5)), 1.0, 1e-9);  // sin^6
   EXPECT_DOUBLE_EQ(SpiralEquation(16, 7.5, 100, 3, 1, 1.0), 7.5);  // no such equation: R stays
   EXPECT_DOUBLE_EQ(SpiralEquation(-1, 2.5, 100, 3, 1, 1.0), 2.5);
   EXPECT_THROW(SpiralEquation(13, 0, 100, 1, 1, 0.0), RuntimeError);  // cos / sin at sin 0
