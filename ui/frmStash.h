@@ -13,8 +13,8 @@ class frmStash : public Form {
   explicit frmStash(Runtime& rt);
 
   PictureBox pTile;     // TileSetter's working picture
-  PictureBox pTrans;    // the Transparency Tool's working picture
-  PictureBox pBlu;      // the Image Blender's BlueScreen picture
+  PictureBox pTrans;    // the Image Blender's working picture
+  PictureBox pBlu;      // the Transparency Tool's working picture (frmBlue)
   PictureBox pStretch;  // the Image Stretcher's source picture
   PictureBox pPro1;     // scratch holders of the workshops
   PictureBox pPro2;
