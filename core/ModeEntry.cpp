@@ -79,6 +79,7 @@ void circleFx(Session& s) {
 // Collage Mode has no picture yet: the button that opens one stays off until the user chooses one.
 void collage(Session& s) {
   s.f.cCan.Enabled = false;
+  s.f.cCan.ToolTipText = "Click to load a new image";
 }
 
 // The mode display is written once more at the end, after the surface has changed hands.

@@ -75,6 +75,8 @@ CanvasArea::CanvasArea(Form& f)
   shErase.Visible = false;
   Dshp.BorderColor = 0xC0C0C0;
   Dshp.Visible = false;
+  pSpire.ToolTipText = "Click to set image (Right-click to cancel)";
+  pTemp.ToolTipText = "Click to set image - Right-click to cancel";
   for (Line* l : {&lnX, &lnY, &lnPX, &lnPY}) {
     l->Visible = false;
     l->BorderColor = 0xC0C0C0;

@@ -119,7 +119,7 @@ frmBlue::frmBlue(Runtime& rt)
   place(lY, 7560, 6840, 1095, 255);
   for (Label* l : {&lX, &lY}) {
     l->BackStyle = 0;
-    l->ForeColor = 0xE0E0E0;
+    l->ForeColor = 0x000000;
   }
   lX.Caption = "X:";
   lY.Caption = "Y:";
