@@ -112,6 +112,19 @@ TEST_F(Text3DTest, TheStackRunsFromOneLayerToSixtyAboutTheSameCentre) {
   EXPECT_EQ(last, 0x0000FF);
 }
 
+TEST_F(Text3DTest, WithCtrlTheAxisBoxStopsAtItsEnds) {
+  f().pCoords.raiseMouseMove(0, 0, 25, 12.6f);
+  EXPECT_EQ(f().Px(0).Value, 4);  // without Ctrl the box only helps
+  f().CtrlDown = -1;
+  struct Case { Single x, y; int px0, px1; };
+  // Past an end the axis stops there, and the refused value ends the handler.
+  for (Case c : {Case{25, 12.6f, 25, 13}, Case{-55, 0, -40, 13}, Case{10, 55, 10, 40}, Case{-3, -41, -3, -40}}) {
+    f().pCoords.raiseMouseMove(0, 0, c.x, c.y);
+    EXPECT_EQ(f().Px(0).Value, c.px0) << c.x << ", " << c.y;
+    EXPECT_EQ(f().Px(1).Value, c.px1) << c.x << ", " << c.y;
+  }
+}
+
 class TextBrushTest : public TextTest {
  protected:
   void SetUp() override {
