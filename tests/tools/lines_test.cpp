@@ -37,15 +37,6 @@ TEST_F(LinesTest, SingleLineDrawsAtReleaseWithItsCopiesUnderneath) {
   EXPECT_EQ(pixel(250, 200), kWhite);  // the main line lies on top
 }
 
-TEST_F(LinesTest, SingleLineTakesNoColourStep) {
-  enter(f().mSingle);
-  f().vColmode.Value = 1;  // Rainbow
-  const Colour before = m().ForeClr;
-  stroke({{1500, 3000}, {3000, 3000}, {6000, 3000}});
-  EXPECT_EQ(m().ForeClr, before);
-  EXPECT_EQ(pixel(250, 200), before);
-}
-
 TEST_F(LinesTest, MirrorLinesDrawTheLineAndItsMirrorsAtRelease) {
   enter(f().mMirLine);
   stroke({{1500, 1500}, {3000, 1500}});
