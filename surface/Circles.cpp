@@ -98,7 +98,9 @@ void PictureBox::Circle(Single x, Single y, Single radius, std::optional<Colour>
     const QRectF box(centre.x() - rx, centre.y() - ry, 2 * rx, 2 * ry);
     const bool whole = !start && !end;
     QRect filled;
-    if (whole && raster::fills(FillStyle))
+    // A solid fill is the painter's brush, its fastest path; the hatches are our own spans.
+    const bool solid = FillStyle == 0;
+    if (whole && !solid && raster::fills(FillStyle))
       filled = fillEllipse(img, FillColor, mode, FillStyle, roundHalfEven(cx), roundHalfEven(cy), rx, ry);
 
     QPainter p(&img);
@@ -108,7 +110,7 @@ void PictureBox::Circle(Single x, Single y, Single radius, std::optional<Colour>
     const QBrush fill(qcolour(FillColor), brushFor(FillStyle));
 
     if (whole) {
-      p.setBrush(Qt::NoBrush);  // the inside is already filled
+      p.setBrush(solid ? fill : QBrush());  // a hatched inside is already filled
       p.drawEllipse(box);
     } else {
       const double s = finiteOrRaise(start.value_or(0.0));

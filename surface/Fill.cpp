@@ -18,7 +18,7 @@ int firstOnGrid(int from, int residue) {
 }
 
 void every8(PixelWriter& out, int y, int x0, int x1, int residue) {
-  for (int x = firstOnGrid(x0, residue); x <= x1; x += kGrid) out.plot(x, y);
+  out.every(y, firstOnGrid(x0, residue), x1, kGrid);
 }
 
 }  // namespace
@@ -41,9 +41,9 @@ void fillSpan(PixelWriter& out, int y, int x0, int x1, int fillStyle) {
       else every8(out, y, x0, x1, 0);
       break;
     case 7:
-      every8(out, y, x0, x1, y);
       // Where the two diagonals cross, one pen pixel: the mixing modes must see it only once.
-      if ((2 * y) % kGrid != 0) every8(out, y, x0, x1, -y);
+      if ((2 * y) % kGrid == 0) every8(out, y, x0, x1, y);
+      else out.every(y, firstOnGrid(x0, y), firstOnGrid(x0, -y), x1, kGrid);
       break;
     default: break;
   }

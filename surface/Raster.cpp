@@ -74,6 +74,46 @@ void PixelWriter::span(int y, int x0, int x1) {
   note(y, x0, x1);
 }
 
+void PixelWriter::every(int y, int first, int x1, int step) {
+  if (y < 0 || y >= h_ || step <= 0) return;
+  if (first < 0) first += ((-first + step - 1) / step) * step;
+  x1 = std::min(x1, w_ - 1);
+  if (first > x1) return;
+  std::uint32_t* p = row(y);
+  int x = first;
+  if (mode_ == 13) {
+    for (; x <= x1; x += step) p[x] = pen_;
+  } else {
+    for (; x <= x1; x += step) p[x] = mix(mode_, pen_, p[x]);
+  }
+  note(y, first, x - step);
+}
+
+void PixelWriter::every(int y, int firstA, int firstB, int x1, int step) {
+  if (y < 0 || y >= h_ || step <= 0) return;
+  if (firstA > firstB) std::swap(firstA, firstB);
+  if (mode_ != 13 || firstA < 0 || firstB - firstA >= step) {
+    every(y, firstA, x1, step);
+    every(y, firstB, x1, step);
+    return;
+  }
+  x1 = std::min(x1, w_ - 1);
+  if (firstA > x1) return;
+  std::uint32_t* p = row(y);
+  const int gap = firstB - firstA;
+  int x = firstA;
+  for (; x + gap <= x1; x += step) {
+    p[x] = pen_;
+    p[x + gap] = pen_;
+  }
+  int last = x - step + gap;
+  if (x <= x1) {
+    p[x] = pen_;
+    last = x;
+  }
+  note(y, firstA, last);
+}
+
 QRect PixelWriter::touched() const {
   if (minX_ > maxX_) return {};
   return QRect(QPoint(minX_, minY_), QPoint(maxX_, maxY_));

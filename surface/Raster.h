@@ -70,6 +70,11 @@ class PixelWriter {
   int height() const { return h_; }
   void plot(int x, int y);
   void span(int y, int x0, int x1);  // inclusive, any order, clipped
+  // Every step-th pixel of row y from x = first on, up to x1 (inclusive, clipped): the lines of
+  // a hatch, at a pixel's cost each.
+  void every(int y, int first, int x1, int step);
+  // The same for two interleaved runs with one step, in one sweep along the row.
+  void every(int y, int firstA, int firstB, int x1, int step);
   QRect touched() const;
 
  private:

@@ -37,15 +37,6 @@ TEST_F(LinesTest, SingleLineDrawsAtReleaseWithItsCopiesUnderneath) {
   EXPECT_EQ(pixel(250, 200), kWhite);  // the main line lies on top
 }
 
-TEST_F(LinesTest, SingleLineTakesNoColourStep) {
-  enter(f().mSingle);
-  f().vColmode.Value = 1;  // Rainbow
-  const Colour before = m().ForeClr;
-  stroke({{1500, 3000}, {3000, 3000}, {6000, 3000}});
-  EXPECT_EQ(m().ForeClr, before);
-  EXPECT_EQ(pixel(250, 200), before);
-}
-
 TEST_F(LinesTest, MirrorLinesDrawTheLineAndItsMirrorsAtRelease) {
   enter(f().mMirLine);
   stroke({{1500, 1500}, {3000, 1500}});
@@ -79,6 +70,14 @@ TEST_F(LinesTest, CrazyLinezEquationsDrawAndMoveTheLastPoint) {
                         Case{3, QPoint(150, 100), 3000, 2250},    // across, then advance
                         Case{4, QPoint(100, 125), 3000, 2250},    // down, then advance
                         Case{24, QPoint(150, 125), 1500, 1500},   // a spoke, the press kept
+                        Case{9, QPoint(220, 90), 1500, 1500},     // doubled and halved
+                        Case{13, QPoint(380, 300), 1500, 1500},   // four times, past the canvas
+                        Case{18, QPoint(160, 90), 1500, 1500},    // a third
+                        Case{19, QPoint(150, 200), 1500, 1500},
+                        Case{33, QPoint(200, 200), 1500, 1500},
+                        Case{36, QPoint(200, 50), 1500, 1500},    // from above the canvas
+                        Case{37, QPoint(150, 50), 1500, 1500},
+                        Case{47, QPoint(250, 275), 1500, 1500},   // the second line, to the mirror
                         Case{50, QPoint(150, 125), 2250, 3000},   // the coordinates exchanged
                         Case{51, QPoint(-1, -1), 1500, 1500}}) {  // no such equation
     enter(f().mCrazyLn);

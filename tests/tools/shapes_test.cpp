@@ -37,7 +37,10 @@ TEST_F(ShapesTest, RectanglesAreOutlinesWithTheirCopiesUnderneath) {
 TEST_F(ShapesTest, ADragUnderTwelvePixelsDrawsNothing) {
   for (int kind : {0, 1, 2}) {
     shape(kind, 0);
-    stroke({{1500, 1500}, {1500 + 165, 4500}});
+    press(1500, 1500);
+    EXPECT_TRUE(f().DrawShape.Visible);  // the rubber band shows from the press on
+    move(1500 + 165, 4500);
+    release(1500 + 165, 4500);
     EXPECT_EQ(count(kWhite), 0) << kind;
     EXPECT_FALSE(f().DrawShape.Visible);
     EXPECT_EQ(f().PicPaint.ScaleWidth, f().PicPaint.Width);  // the closing steps ran all the same
