@@ -21,7 +21,7 @@ void wireImageStretcher(Session& s) {
   w.mStash.Click = [&s] { Stretch_mStash_Click(s); };
   w.mLdQuillora.Click = [&s] { Stretch_mLdQuillora_Click(s); };
   w.mSave.Click = [&s] { Stretch_mSave_Click(s); };
-  w.mSaveSel.Click = [&s] { mSaveSel_Click(s); };
+  w.mSaveSel.Click = [&s] { Stretch_mSaveSel_Click(s); };
   w.mCopyClip.Click = [&s] { Stretch_mCopyClip_Click(s); };
   w.mClip.Click = [&s] { mClip_Click(s); };
   w.mInst.Click = [&w] { w.fStruct.Visible = true; };

@@ -190,7 +190,7 @@ void Stretch_mSave_Click(Session& s) {
   });
 }
 
-void mSaveSel_Click(Session& s) {
+void Stretch_mSaveSel_Click(Session& s) {
   frmStretch& w = *stretchWindow(s);
   if (fileWindowShown(s)) return;
   trap([&] {

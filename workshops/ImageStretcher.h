@@ -30,7 +30,7 @@ void Stretch_pLO_MouseUp(Session& s, int Button, Single X, Single Y);
 void Stretch_tSel_Timer(Session& s);
 
 void Stretch_mSave_Click(Session& s);
-void mSaveSel_Click(Session& s);
+void Stretch_mSaveSel_Click(Session& s);
 void Stretch_mCopyClip_Click(Session& s);
 
 }  // namespace qp
