@@ -107,6 +107,12 @@ TEST_F(WidthKeysTest, TheSprayGrowsWithTheWidthOnlyWithTheSecondBox) {
   ticks(f().tPenUp, 2);
   keyUp(vbKeyUp);
   EXPECT_EQ(f().AirSpread, spread + 4);
+  f().ckVal2.Value = 0;  // and narrows with it only with the box too
+  f().AirSpread = 20;
+  keyDown(vbKeyDown);
+  ticks(f().tPenDwn, 2);
+  keyUp(vbKeyDown);
+  EXPECT_EQ(f().AirSpread, 20);
 }
 
 TEST_F(WidthKeysTest, ModesWithoutAWidthIgnoreTheArrows) {

@@ -92,16 +92,3 @@ TEST_F(Layout, GridTogglesTheGuidesOfTheSurfaceInUseAndTakesTheColours) {
 }
 
 }  // namespace qp::test
-
-namespace qp::test {
-
-TEST_F(Layout, DrawWidthBarSetsTheWidthTheToolsUse) {
-  f().vPencil.Value = 12;
-  EXPECT_EQ(m().DrawWidth, 12);
-  EXPECT_EQ(f().lPenVal.Caption.get(), "Draw Width : 12");
-  press(1500, 1500);
-  release(1500, 1500);
-  EXPECT_EQ(pixel(104, 100), m().ForeClr);  // a dot 12 pixels wide around the press
-}
-
-}  // namespace qp::test

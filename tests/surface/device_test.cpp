@@ -13,6 +13,9 @@ TEST_F(DeviceTest, PixelsCarryRedInTheLowByte) {
   PictureBox& b = box(10, 10, 1);  // device calls are in pixels whatever the scale
   SetPixel(b, 3, 4, RGB(10, 20, 30));
   EXPECT_EQ(GetPixel(b, 3, 4), 0x1E140A);
+  SetPixel(b, 0, 0, kGreen);  // the first and last pixels are inside
+  SetPixel(b, 9, 9, kGreen);
+  EXPECT_EQ(count(b, kGreen), 2);
   EXPECT_EQ(b.bitmap().pixel(3, 4), 0xFF0A141Eu);  // the bitmap is 0xAARRGGBB
   EXPECT_EQ(b.Point(45, 60), 0x1E140A);
   EXPECT_EQ(GetPixel(b, -1, 0), -1);
