@@ -1,5 +1,6 @@
 // The canvas to and from the clipboard. A paste does not land on the canvas at once: it floats in
 // pTemp under a blinking frame, and a click on it sets it down.
+#include "core/FloatingBlock.h"
 #include "core/Edit.h"
 #include "core/Layout.h"
 #include "core/Panel.h"
@@ -76,11 +77,7 @@ void pTemp_MouseDown(Session& s, int Button, int Shift, Single X, Single Y) {
   frmCanvas& f = s.f;
   if (Button != vbLeftButton) return;
   trap([&] {
-    TakeUndoSnapshot(s);
-    f.pTemp.Picture = f.pTemp.Image;
-    f.PicPaint.PaintPicture(f.pTemp.Picture, f.DrawShape.Left, f.DrawShape.Top, f.DrawShape.Width.get(),
-                            f.DrawShape.Height.get());
-    f.PicPaint.Picture = f.PicPaint.Image;
+    SetFloatOnCanvas(s, f.pTemp, f.DrawShape.Left, f.DrawShape.Top, f.DrawShape.Width.get(), f.DrawShape.Height.get());
     f.pTemp.Visible = false;
     f.DrawShape.Visible = false;
     f.DrawShape.BorderColor = kFrameDark;

@@ -2,6 +2,7 @@
 
 #include "core/ApplyPaintMode.h"
 #include "core/ToolTable.h"
+#include "core/Undo.h"
 #include "ui/frmCanvas.h"
 
 namespace qp {
@@ -32,6 +33,14 @@ void pSpire_MouseUp(Session& s, int Button, int, Single X, Single Y) {
   trap([&] {
     if (const StrokeHook& h = hooks(s).spireRelease) h(s, Button, X, Y);
   });
+}
+
+void SetFloatOnCanvas(Session& s, PictureBox& box, Single Left, Single Top, Single Width, Single Height) {
+  frmCanvas& f = s.f;
+  TakeUndoSnapshot(s);
+  box.Picture = box.Image;
+  f.PicPaint.PaintPicture(box.Picture, Left, Top, Width, Height);
+  f.PicPaint.Picture = f.PicPaint.Image;
 }
 
 void CancelSpire(Session& s) {

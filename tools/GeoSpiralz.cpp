@@ -2,6 +2,7 @@
 // floating result and its set and cancel, and the words the panel's bars show.
 #include "tools/GeoSpiralz.h"
 
+#include "core/FloatingBlock.h"
 #include "core/ApplyPaintMode.h"
 #include "core/Undo.h"
 #include "tools/GeoSpiral.h"
@@ -88,11 +89,7 @@ void GeoSpire_MouseDown(Session& s, int Button, Single, Single) {
   frmCanvas& f = s.f;
   if (Button != vbLeftButton) return;
   trap([&] {
-    TakeUndoSnapshot(s);
-    f.pSpire.Picture = f.pSpire.Image;
-    f.PicPaint.PaintPicture(f.pSpire.Picture, f.DrawShape.Left, f.DrawShape.Top, f.DrawShape.Width.get(),
-                            f.DrawShape.Height.get());
-    f.PicPaint.Picture = f.PicPaint.Image;
+    SetFloatOnCanvas(s, f.pSpire, f.DrawShape.Left, f.DrawShape.Top, f.DrawShape.Width.get(), f.DrawShape.Height.get());
     f.pSpire.Visible = false;
     f.DrawShape.Height = 0;
   });

@@ -85,11 +85,7 @@ void ShapeRelease(Session& s, int, Single, Single) {
 void BlockPress(Session& s, int Button, Single, Single) {
   if (Button != vbLeftButton) return;
   frmCanvas& f = s.f;
-  TakeUndoSnapshot(s);
-  f.pSpire.Picture = f.pSpire.Image;
-  f.PicPaint.PaintPicture(f.pSpire.Picture, f.DrawShape.Left, f.DrawShape.Top, f.DrawShape.Width.get(),
-                          f.DrawShape.Height.get());
-  f.PicPaint.Picture = f.PicPaint.Image;
+  SetFloatOnCanvas(s, f.pSpire, f.DrawShape.Left, f.DrawShape.Top, f.DrawShape.Width.get(), f.DrawShape.Height.get());
   f.pSpire.Visible = false;
   f.DrawShape.Visible = false;
   f.tTemp.Enabled = false;  // nothing is left to pulse

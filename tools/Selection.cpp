@@ -6,6 +6,7 @@
 
 #include <cmath>
 
+#include "core/FloatingBlock.h"
 #include "core/ApplyPaintMode.h"
 #include "core/Undo.h"
 #include "files/FileDialog.h"
@@ -219,11 +220,7 @@ void SelectionSpire_MouseDown(Session& s, int Button, Single, Single) {
   frmCanvas& f = s.f;
   if (Button != vbLeftButton) return;
   trap([&] {
-    TakeUndoSnapshot(s);
-    f.pSpire.Picture = f.pSpire.Image;
-    f.PicPaint.PaintPicture(f.pSpire.Picture, f.pSpire.Left, f.pSpire.Top, f.pSpire.Width.get(),
-                            f.pSpire.Height.get());
-    f.PicPaint.Picture = f.PicPaint.Image;
+    SetFloatOnCanvas(s, f.pSpire, f.pSpire.Left, f.pSpire.Top, f.pSpire.Width.get(), f.pSpire.Height.get());
     endFloat(s);
     if (s.m.PaintMode == 16) {
       ApplyPaintMode(s);
