@@ -96,7 +96,7 @@ void GeoSpire_MouseDown(Session& s, int Button, Single, Single) {
 }
 
 // A right click cancels it: the canvas stays as it was.
-void pSpire_MouseUp(Session& s, int Button, Single, Single) {
+void GeoSpire_MouseUp(Session& s, int Button, Single, Single) {
   frmCanvas& f = s.f;
   if (Button != vbRightButton) return;
   trap([&] {
@@ -160,7 +160,7 @@ ToolHooks geoSpiralzHooks() {
   h.release = GeoSpiralzRelease;
   h.spirePress = GeoSpire_MouseDown;
   h.cCanMouseMove = cCan_MouseMoveSpiral;
-  h.spireRelease = pSpire_MouseUp;
+  h.spireRelease = GeoSpire_MouseUp;
   h.cCanClick = cCan_GeoSpiral;
   h.vValChange = {equationChange, symmetryChange, densityChange, styleChange, offsetChange};
   return h;

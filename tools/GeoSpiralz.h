@@ -10,7 +10,7 @@ void GeoSpiralzMove(Session& s, int Button, Single X, Single Y);
 void GeoSpiralzRelease(Session& s, int Button, Single X, Single Y);
 void cCan_GeoSpiral(Session& s);
 void GeoSpire_MouseDown(Session& s, int Button, Single X, Single Y);
-void pSpire_MouseUp(Session& s, int Button, Single X, Single Y);
+void GeoSpire_MouseUp(Session& s, int Button, Single X, Single Y);
 // The button's tool tip, while the pointer is over it.
 void cCan_MouseMoveSpiral(Session& s);
 ToolHooks geoSpiralzHooks();
