@@ -45,9 +45,11 @@ TEST_F(OpenTest, TheCanvasTakesThePicturesSizeAndScrollsWhenItIsLarger) {
   openThroughExplorer("small.bmp");
   EXPECT_EQ(f().PicPaint.pixelHeight(), 30);
   EXPECT_FALSE(f().vWidth.Visible);
-  // Undo brings the previous picture back at its own size.
+  // Undo brings the previous picture back at the canvas's present size: the layout gave the undo
+  // level the canvas's size, so the earlier picture's corner shows.
   choose(f().mnuUndo);
-  EXPECT_EQ(f().PicPaint.pixelWidth(), 1200);
+  EXPECT_EQ(f().PicPaint.pixelWidth(), 40);
+  EXPECT_EQ(QImage(f().PicPaint.Image).pixel(5, 5), patternPicture(1200, 900).pixel(5, 5));
 }
 
 TEST_F(OpenTest, TheCanvasGetsThePreviewedPictureNotANewReadOfTheFile) {
