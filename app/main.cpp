@@ -4,10 +4,13 @@
 //   quillora --record FILE            the program in a window, writing the user's input to FILE
 //   quillora --demo [OUT.bmp]         paint the bundled demo headless and save it
 //   quillora --monkey N SEED          N random inputs, to see that the program survives them
+//   quillora [--script FILE] PICTURE  opens PICTURE first, as if it were dropped on the canvas
 #include <QApplication>
 #include <QByteArray>
 #include <QDateTime>
 #include <QSize>
+#include <QTextStream>
+#include <QTimer>
 #include <cstdio>
 #include <cstring>
 
@@ -16,6 +19,7 @@
 #include "platform/qt/QtRuntime.h"
 #include "script/CommandLine.h"
 #include "app/Program.h"
+#include "app/OpenFiles.h"
 
 namespace {
 
@@ -28,7 +32,7 @@ bool haveDisplay() {
 int usage() {
   std::fprintf(stderr,
                "usage: quillora [--script FILE [--show] [--screen WxH] | --record FILE | --demo [OUT.bmp] |\n"
-               "                 --monkey N SEED]\n");
+               "                 --monkey N SEED] [PICTURE]\n");
   return 2;
 }
 
@@ -39,6 +43,7 @@ struct Options {
   QSize screen{1280, 1024};
   long long events = 0;
   unsigned long seed = 1;
+  QStringList pictures;  // named after the options: opened on the canvas
 };
 
 bool parse(int argc, char** argv, Options& o) {
@@ -60,11 +65,13 @@ bool parse(int argc, char** argv, Options& o) {
       o.events = QByteArray(argv[++i]).toLongLong(&ok1);
       o.seed = QByteArray(argv[++i]).toULong(&ok2);
       if (!ok1 || !ok2 || o.events < 0) return false;
+    } else if (a[0] != '-') {
+      o.pictures << QString::fromLocal8Bit(a);
     } else {
       return false;
     }
   }
-  return true;
+  return o.pictures.isEmpty() || o.mode == Options::Window || o.mode == Options::Script;
 }
 
 }  // namespace
@@ -88,7 +95,7 @@ int main(int argc, char** argv) {
   QApplication app(argc, argv);
   QApplication::setApplicationName("Quillora Pro");
   switch (o.mode) {
-    case Options::Script: return qp::script::runScript(o.file, o.show, o.screen);
+    case Options::Script: return qp::script::runScript(o.file, o.show, o.screen, o.pictures);
     case Options::Record: return qp::script::runRecording(o.file);
     case Options::Demo: return qp::script::runDemo(o.file);
     case Options::Monkey: return qp::script::runMonkey(o.events, static_cast<std::uint32_t>(o.seed));
@@ -109,5 +116,10 @@ int main(int argc, char** argv) {
   view.sync();
   view.window().show();
   if (program.quitRequested()) return 0;
+  // Once the window is up, so that a message about the picture shows over it.
+  QTimer::singleShot(0, [&] {
+    QTextStream err(stderr);
+    qp::openCommandLineFiles(program, o.pictures, err);
+  });
   return QApplication::exec();
 }

@@ -11,6 +11,7 @@
 #include "script/Limits.h"
 #include "script/Sessions.h"
 #include "app/Program.h"
+#include "app/OpenFiles.h"
 
 namespace qp::script {
 
@@ -35,15 +36,19 @@ bool readText(const QString& file, QString& text, QString& why) {
 }
 
 int runParsed(std::vector<Command> commands, const QString& folder, bool show, QSize screen,
-              QTextStream& out, QTextStream& err) {
+              QTextStream& out, QTextStream& err, const QStringList& pictures = {}) {
   const std::uint32_t seed = takeLeadingSeed(commands);
   if (show) {
     ShownSession session(seed);
+    openCommandLineFiles(session.program(), pictures, err);
+    session.afterInput();
     Runner runner(session.program(), session.rt(), session, out, err);
     runner.setInputFolder(folder);
     return runner.runAll(commands);
   }
   HeadlessSession session(seed, screen, out);
+  openCommandLineFiles(session.program(), pictures, err);
+  session.afterInput();
   Runner runner(session.program(), session.rt(), session, out, err);
   runner.setInputFolder(folder);
   return runner.runAll(commands);
@@ -61,7 +66,7 @@ QSize parseScreenSize(const QString& text) {
   return QSize(w, h);
 }
 
-int runScript(const QString& file, bool show, QSize screen) {
+int runScript(const QString& file, bool show, QSize screen, const QStringList& pictures) {
   QTextStream out(stdout), err(stderr);
   QString text, why;
   if (!readText(file, text, why)) {
@@ -77,7 +82,7 @@ int runScript(const QString& file, bool show, QSize screen) {
   const QString folder = file == "-" ? QString() : QFileInfo(file).absolutePath();
   QElapsedTimer clock;
   clock.start();
-  const int status = runParsed(std::move(commands), folder, show, screen, out, err);
+  const int status = runParsed(std::move(commands), folder, show, screen, out, err, pictures);
   out.flush();
   if (qEnvironmentVariableIsSet("QUILLORA_SCRIPT_TIME"))
     err << "script ran in " << clock.elapsed() << " ms" << Qt::endl;

@@ -3,12 +3,14 @@
 // the bundled demo and the monkey. Each returns the process's exit status.
 #include <QSize>
 #include <QString>
+#include <QStringList>
 #include <cstdint>
 
 namespace qp::script {
 
 // Runs a script ("-" reads standard input). 0: every expect held; 1: one failed; 2: it cannot run.
-int runScript(const QString& file, bool show, QSize screen);
+// The pictures named open first, as they do when the program is started with them.
+int runScript(const QString& file, bool show, QSize screen, const QStringList& pictures = {});
 // The normal program in a window, writing every input of the user to file as a script.
 int runRecording(const QString& file);
 // Replays the bundled demo headless and saves the picture it paints.
