@@ -94,6 +94,7 @@ int main(int argc, char** argv) {
   }
   QApplication app(argc, argv);
   QApplication::setApplicationName("Quillora Pro");
+  QGuiApplication::setDesktopFileName("org.quillora.QuilloraPro");  // the menu entry's icon and name
   switch (o.mode) {
     case Options::Script: return qp::script::runScript(o.file, o.show, o.screen, o.pictures);
     case Options::Record: return qp::script::runRecording(o.file);

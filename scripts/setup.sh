@@ -3,6 +3,8 @@
 set -euo pipefail
 packages=(cmake ninja-build g++ ccache qt6-base-dev libqt6gui6 qt6-qpa-plugins libgl-dev
           libgtest-dev libbenchmark-dev fonts-liberation2 xvfb xauth)
+# The install test's validators of the menu entry and the metainfo; what the Debian package needs.
+packages+=(desktop-file-utils appstream-util dpkg-dev file)
 missing=()
 for p in "${packages[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
