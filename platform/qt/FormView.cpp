@@ -47,7 +47,8 @@ bool isGraphical(ControlKind k) {
   return k == ControlKind::Label || k == ControlKind::Shape || k == ControlKind::Line || k == ControlKind::Image;
 }
 
-QCursor cursorFor(const VisualControl& c) {
+// dpr: the screen's pixels to a logical pixel, for a pointer drawn by the program.
+QCursor cursorFor(const VisualControl& c, qreal dpr) {
   switch (c.MousePointer.get()) {
     case 2: return Qt::CrossCursor;
     case 3: return Qt::IBeamCursor;
@@ -63,7 +64,14 @@ QCursor cursorFor(const VisualControl& c) {
     case 99:
       if (c.kind() == ControlKind::PictureBox) {
         const QImage& icon = static_cast<const PictureBox&>(c).MouseIcon;
-        if (!icon.isNull()) return QCursor(QPixmap::fromImage(icon));
+        if (!icon.isNull()) {
+          // The icon is in logical pixels like the picture under it: on a scaled screen it grows
+          // with it, each pixel a crisp block, and the hot spot stays at its centre.
+          const QSize device = (QSizeF(icon.size()) * dpr).toSize();
+          QPixmap shown = QPixmap::fromImage(icon.scaled(device, Qt::IgnoreAspectRatio, Qt::FastTransformation));
+          shown.setDevicePixelRatio(dpr);
+          return QCursor(shown);
+        }
       }
       return Qt::ArrowCursor;
     default: return Qt::ArrowCursor;
@@ -293,7 +301,7 @@ void FormView::apply(Entry& e) {
   w->setEnabled(v->Enabled);
   w->setToolTip(v->ToolTipText);
   if (v->MousePointer == 0) w->unsetCursor();
-  else w->setCursor(cursorFor(*v));
+  else w->setCursor(cursorFor(*v, w->devicePixelRatioF()));
   w->setAcceptDrops(v->OLEDropEnabled);
   const QSignalBlocker quiet(w);  // showing a value is not the user changing it
   if (e.kind == ControlKind::Frame || e.kind == ControlKind::CheckBox || e.kind == ControlKind::OptionButton) {
@@ -394,7 +402,7 @@ void FormView::applyForm() {
     window_->resize(size);
   }
   if (form_.MousePointer == 0) central_->unsetCursor();
-  else central_->setCursor(cursorFor(form_));
+  else central_->setCursor(cursorFor(form_, central_->devicePixelRatioF()));
   central_->setAcceptDrops(form_.OLEDropEnabled);
   if (window_->isVisible() == form_.Visible.get()) return;
   if (form_.Visible) {
