@@ -25,13 +25,11 @@ QString whyNotOpened(const QString& path) {
   try {
     LoadPicture(path);
     return QString();
-  } catch (const RuntimeError& e) {
-    if (e.code() == RuntimeError::FileNotFound)
-      return QString("Cannot open \"%1\": the file cannot be read.").arg(path);
+  } catch (const RuntimeError&) {
   } catch (const std::bad_alloc&) {
   }
-  return QString("Cannot open \"%1\": it is not a picture Quillora Pro can read, or it is damaged "
-                 "or too large.")
+  return QString("Cannot open \"%1\": it is not a picture Quillora Pro can read, or it is damaged, "
+                 "too large or not readable.")
       .arg(path);
 }
 

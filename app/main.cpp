@@ -119,6 +119,7 @@ int main(int argc, char** argv) {
   if (program.quitRequested()) return 0;
   // Once the window is up, so that a message about the picture shows over it.
   QTimer::singleShot(0, [&] {
+    QApplication::setActiveWindow(&view.window());
     QTextStream err(stderr);
     qp::openCommandLineFiles(program, o.pictures, err);
   });
