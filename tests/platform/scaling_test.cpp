@@ -1,13 +1,10 @@
-// The windows at the desktop's screen scaling (QT_SCALE_FACTOR: ctest runs this at 100%, 150% and
-// 200%). The picture keeps one image pixel to a logical pixel and is never smoothed: at 200% each
-// pixel is a crisp 2 x 2 block of the screen's pixels; the pointer drawn for a stroke scales alike.
+// The windows at the desktop's screen scaling: ctest runs this at 100%, 150% and 200%
+// (QT_SCALE_FACTOR). A picture keeps one image pixel to a logical pixel and is never smoothed (at
+// 200% each is a crisp 2 x 2 block of screen pixels); the pointer drawn for a stroke scales alike.
 #include <gtest/gtest.h>
 
 #include <QGuiApplication>
-#include <QPixmap>
 #include <cmath>
-#include <utility>
-#include <QWidget>
 
 #include "app/Program.h"
 #include "platform/Headless.h"
@@ -19,84 +16,67 @@ namespace {
 
 // Neighbours differ in every channel, so that any blending between them shows.
 QImage pattern(int w, int h) {
-  QImage img(w, h, QImage::Format_RGB32);
+  QImage img(w, h, QImage::Format_ARGB32);
   for (int y = 0; y < h; ++y)
     for (int x = 0; x < w; ++x) img.setPixel(x, y, qRgb((x * 97) & 255, (y * 89) & 255, ((x + y) & 1) * 255));
   return img;
 }
 
-// How many screen pixels of a grab show a colour of no image pixel they cover: a blend of
-// neighbours. At a whole scale each screen pixel covers one image pixel, which it must show.
+// How many screen pixels show the colour of no image pixel they cover: a blend of neighbours. At a
+// whole scale each screen pixel covers one image pixel only.
 int pixelsOff(const QImage& shot, const QImage& picture, QPoint origin) {
-  const double scale = shot.devicePixelRatio();
-  const auto covered = [scale](int d, int o) {
-    return std::pair{static_cast<int>(std::floor(d / scale + 1e-9)) - o,
-                     static_cast<int>(std::ceil((d + 1) / scale - 1e-9)) - 1 - o};
-  };
+  const double s = shot.devicePixelRatio();
+  const auto first = [s](int d) { return static_cast<int>(std::floor(d / s + 1e-9)); };
+  const auto last = [s](int d) { return static_cast<int>(std::ceil((d + 1) / s - 1e-9)) - 1; };
   int off = 0;
   for (int dy = 0; dy < shot.height(); ++dy)
     for (int dx = 0; dx < shot.width(); ++dx) {
-      const auto [x0, x1] = covered(dx, origin.x());
-      const auto [y0, y1] = covered(dy, origin.y());
-      if (!picture.valid(x0, y0) || !picture.valid(x1, y1)) continue;  // the border around it
+      const QRect covered(QPoint(first(dx), first(dy)) - origin, QPoint(last(dx), last(dy)) - origin);
+      if (!picture.rect().contains(covered)) continue;  // the border around the picture
       bool shown = false;
-      for (int y = y0; y <= y1; ++y)
-        for (int x = x0; x <= x1; ++x) shown = shown || shot.pixel(dx, dy) == picture.pixel(x, y);
+      for (int y = covered.top(); y <= covered.bottom(); ++y)
+        for (int x = covered.left(); x <= covered.right(); ++x) shown |= shot.pixel(dx, dy) == picture.pixel(x, y);
       off += !shown;
     }
   return off;
 }
 
-class Scaling : public ::testing::Test {
- protected:
-  void SetUp() override {
-    program.start();
-    view.sync();
-    view.window().show();
-  }
-  double scale() const { return qApp->devicePixelRatio(); }
+TEST(Scaling, PicturesAndThePointerAreCrispAtTheScreensScale) {
   HeadlessRuntime h;
-  Program program{h.rt()};
-  FormView view{program.f};
-};
-
-TEST_F(Scaling, TheWindowIsDrawnAtTheScreensScale) {
-  const QImage shot = view.window().grab().toImage();
-  EXPECT_DOUBLE_EQ(shot.devicePixelRatio(), scale());
-  EXPECT_EQ(shot.size(), (QSizeF(view.window().size()) * scale()).toSize());
-  shot.save(QString("scaling-%1.png").arg(qRound(scale() * 100)));
-}
-
-TEST_F(Scaling, EveryImagePixelIsACrispBlockOfScreenPixels) {
-  struct Case {
-    const char* what;
-    PictureBox* box;
-  };
-  const Case cases[] = {{"the canvas", &program.f.PicPaint}, {"the pixel surface", &program.f.pPix}};
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.what);
-    c.box->Visible = true;
-    const QImage picture = pattern(64, 48);
-    c.box->Picture = picture;
-    view.sync();
-    auto* w = dynamic_cast<PictureWidget*>(view.widgetFor(c.box));
-    ASSERT_NE(w, nullptr);
-    const QImage shot = w->grab().toImage();
-    ASSERT_DOUBLE_EQ(shot.devicePixelRatio(), scale());
-    EXPECT_EQ(pixelsOff(shot, picture, w->bitmapOrigin()), 0);
-  }
-}
-
-TEST_F(Scaling, TheStrokesPointerHasTheScreensScale) {
-  program.f.PicPaint.MousePointer = 99;
-  program.f.PicPaint.MouseIcon = program.f.iPnt.Picture;
+  Program program(h.rt());
+  FormView view(program.f);
+  program.start();
+  view.window().show();
+  frmCanvas& f = program.f;
+  const QImage picture = pattern(64, 48), icon = QImage(f.iPnt.Picture).convertToFormat(QImage::Format_ARGB32);
+  f.PicPaint.Picture = picture;
+  f.pPix.Visible = true;
+  f.pPix.Picture = picture;
+  f.PicPaint.MousePointer = 99;
+  f.PicPaint.MouseIcon = f.iPnt.Picture;
   view.sync();
-  const QImage icon = program.f.iPnt.Picture;
-  const QPixmap pointer = view.widgetFor(&program.f.PicPaint)->cursor().pixmap();
-  EXPECT_DOUBLE_EQ(pointer.devicePixelRatio(), scale());
+  const double scale = qApp->devicePixelRatio();
+  const QImage shot = view.window().grab().toImage();
+  shot.save(QString("scaling-%1.png").arg(qRound(scale * 100)));
+  EXPECT_EQ(shot.size(), (QSizeF(view.window().size()) * scale).toSize());
+
+  auto* canvas = dynamic_cast<PictureWidget*>(view.widgetFor(&f.PicPaint));
+  auto* pixels = dynamic_cast<PictureWidget*>(view.widgetFor(&f.pPix));
+  ASSERT_TRUE(canvas && pixels);
+  const QImage pointer = canvas->cursor().pixmap().toImage().convertToFormat(QImage::Format_ARGB32);
   EXPECT_EQ(pointer.deviceIndependentSize().toSize(), icon.size());
-  QImage shown = pointer.toImage().convertToFormat(QImage::Format_ARGB32);
-  EXPECT_EQ(pixelsOff(shown, icon.convertToFormat(QImage::Format_ARGB32), QPoint()), 0);
+  const struct {
+    const char* what;
+    QImage shown, drawn;
+    QPoint origin;
+  } cases[] = {{"the canvas", canvas->grab().toImage(), picture, canvas->bitmapOrigin()},
+               {"the pixel surface", pixels->grab().toImage(), picture, pixels->bitmapOrigin()},
+               {"the stroke's pointer", pointer, icon, QPoint()}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.what);
+    EXPECT_DOUBLE_EQ(c.shown.devicePixelRatio(), scale);
+    EXPECT_EQ(pixelsOff(c.shown, c.drawn, c.origin), 0);
+  }
 }
 
 }  // namespace
