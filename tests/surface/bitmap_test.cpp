@@ -158,6 +158,11 @@ TEST_F(BitmapTest, ScaleModesAndUserScale) {
   EXPECT_DOUBLE_EQ(b.toPixelX(0), 200);
   b.ScaleMode = 3;
   EXPECT_FLOAT_EQ(b.ScaleLeft, 0);
+  b.ScaleTop = -10;  // a moved origin alone makes a user scale too
+  EXPECT_EQ(b.ScaleMode, 0);
+  b.PSet(0, 0, 0x0000FF);
+  EXPECT_EQ(px(b, 0, 10), 0x0000FF);
+  b.ScaleMode = 3;
   EXPECT_FLOAT_EQ(b.ScaleWidth, 400);
   b.ScaleMode = 1;
   EXPECT_FLOAT_EQ(b.ScaleWidth, 6000);
@@ -179,6 +184,9 @@ TEST_F(BitmapTest, RefusalsRaiseAndChangeNothing) {
       {[&] { b.DrawWidth = 0; }, RuntimeError::InvalidPropertyValue},
       {[&] { b.DrawMode = 17; }, RuntimeError::InvalidPropertyValue},
       {[&] { b.ScaleWidth = 0; }, RuntimeError::InvalidPropertyValue},
+      {[&] { b.FontSize = 2160; }, 0},
+      {[&] { b.FontSize = 2160.5f; }, RuntimeError::InvalidPropertyValue},
+      {[&] { b.FontSize = 0; }, RuntimeError::InvalidPropertyValue},
       {[&] { b.Line(0, 0, std::nanf(""), 3); }, RuntimeError::Overflow},
       {[&] { b.PaintPicture(QImage(), 0, 0); }, RuntimeError::InvalidPicture},
   };

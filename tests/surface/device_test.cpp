@@ -95,7 +95,10 @@ TEST_F(DeviceTest, TransparentBltLeavesTheKeyOut) {
   EXPECT_TRUE(TransparentBlt(dst, 2, 3, 4, 4, src, 0, 0, 4, 4, kGreen));
   // Stretched twice over: the key pixel becomes a 2x2 hole.
   EXPECT_TRUE(TransparentBlt(dst, 10, 10, 8, 8, src, 0, 0, 4, 4, kGreen));
-  EXPECT_FALSE(TransparentBlt(dst, 0, 0, 0, 4, src, 0, 0, 4, 4, kGreen));
+  EXPECT_FALSE(TransparentBlt(dst, 0, 0, 0, 4, src, 0, 0, 4, 4, kGreen));  // nothing to copy to or from
+  EXPECT_FALSE(TransparentBlt(dst, 0, 0, 4, 0, src, 0, 0, 4, 4, kGreen));
+  EXPECT_FALSE(TransparentBlt(dst, 0, 0, 4, 4, src, 0, 0, 0, 4, kGreen));
+  EXPECT_FALSE(TransparentBlt(dst, 0, 0, 4, 4, src, 0, 0, 4, 0, kGreen));
   expectAt(dst, {{2, 3, kRed}, {3, 4, kBlue}, {5, 6, kRed}, {6, 7, kBlue}, {10, 10, kRed}, {12, 12, kBlue},
                  {13, 13, kBlue}, {14, 14, kRed}, {17, 17, kRed}}, "blt");
 }
@@ -107,7 +110,9 @@ TEST_F(DeviceTest, PaintPictureStretchesCopiesPartsAndMirrors) {
     pic.setPixel(x, 1, qRgb(0, x * 10, 0));
   }
   PictureBox& b = box(40, 40, 3, kWhite);
+  b.takeDirty();
   b.PaintPicture(pic, 0, 0);  // natural size
+  EXPECT_EQ(b.takeDirty(), QRect(0, 0, 4, 2));
   expectAt(b, {{3, 0, RGB(30, 0, 0)}, {4, 0, kWhite}}, "natural");
   b.PaintPicture(pic, 10, 10, 8, 4);
   expectAt(b, {{10, 10, 0}, {13, 11, RGB(10, 0, 0)}, {17, 13, RGB(0, 30, 0)}, {18, 10, kWhite}}, "stretched");
@@ -168,6 +173,22 @@ TEST_F(DeviceTest, PrintWritesAtTheCurrentPositionAndMovesToTheNextLine) {
   b.ScaleMode = 1;
   EXPECT_FLOAT_EQ(b.TextWidth("Bold"), pixelsWide * 15);
   EXPECT_GT(b.TextHeight("a\nb"), b.TextHeight("a") * 1.5f);
+  // Each style of the font changes the ink of the same word.
+  PictureBox& t = box(120, 40, 3, kWhite);
+  t.ForeColor = kBlue;
+  t.FontSize = 14;
+  auto printed = [&] {
+    t.Cls();
+    t.Print("Hmm");
+    return t.bitmap().copy();
+  };
+  const QImage plain = printed();
+  Prop<bool>* styles[] = {&t.FontBold, &t.FontItalic, &t.FontUnderline, &t.FontStrikethru};
+  for (int i = 0; i < 4; ++i) {
+    *styles[i] = true;
+    EXPECT_NE(printed(), plain) << "style " << i;
+    *styles[i] = false;
+  }
 }
 
 }  // namespace
