@@ -31,13 +31,20 @@ TEST_F(ColourBarsTest, VarianceAndColorOptionTellTheirValues) {
   EXPECT_EQ(f().lHelp.Caption.get(), "Current Color Variance : 52");
   EXPECT_EQ(f().lVar.ToolTipText.get(), "Current Color Variance : 52");
   EXPECT_EQ(f().lStats.Caption.get(), "Color Variance : 52");
-  f().vColors.Value = 4;
-  EXPECT_EQ(m().ColorOption, 4);
-  EXPECT_EQ(f().lStats.Caption.get(), "Yellow");
-  EXPECT_EQ(f().lColorVal.ToolTipText.get(), "Color : Yellow");
-  EXPECT_EQ(f().lHelp.Caption.get(), "Current Color : Yellow");
-  EXPECT_EQ(f().lForclr.BackColor, RGB(255, 255, 0));
-  EXPECT_EQ(m().ForeClr, RGB(255, 255, 0));
+  // Every Colour Option: its name and the colour it gives.
+  const std::pair<const char*, Colour> options[] = {{"White", 0xFFFFFF}, {"Red", 0x0000FF},    {"Green", 0x00FF00},
+                                                    {"Blue", 0xFF0000},  {"Yellow", 0x00FFFF}, {"Cyan", 0xFFFF00},
+                                                    {"Magenta", 0xFF00FF}};
+  for (int option : {1, 2, 3, 4, 5, 6, 0}) {
+    const auto& [name, colour] = options[option];
+    f().vColors.Value = option;
+    EXPECT_EQ(m().ColorOption, option);
+    EXPECT_EQ(f().lStats.Caption.get(), name);
+    EXPECT_EQ(f().lColorVal.ToolTipText.get(), QString("Color : ") + name);
+    EXPECT_EQ(f().lHelp.Caption.get(), QString("Current Color : ") + name);
+    EXPECT_EQ(f().lForclr.BackColor, colour) << name;
+    EXPECT_EQ(m().ForeClr, colour) << name;
+  }
 }
 
 TEST_F(ColourBarsTest, StripsMixTheCustomColourInTheColorOptionBox) {
