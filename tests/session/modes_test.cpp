@@ -50,6 +50,12 @@ TEST_F(Modes, ModeChangeResetsThePanelBeforeTheModesOwnSettings) {
   EXPECT_FALSE(f().ckVal.Visible);
   EXPECT_EQ(f().ckVal.Value.get(), 0);
   EXPECT_EQ(f().ckVal2.Value.get(), 0);
+  // Mirrors N More starts with both axes and the box clear.
+  f().ckVal.Value = 1;
+  choose(f().mGpen);
+  EXPECT_EQ(f().ckVal.Value.get(), 0);
+  EXPECT_EQ(f().ckVert.Value.get(), 1);
+  EXPECT_EQ(f().ckHoriz.Value.get(), 1);
 }
 
 TEST_F(Modes, ChoosingTheSameModeAgainBakesTheCanvasAndResetsTheArrowPointer) {

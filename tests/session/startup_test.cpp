@@ -13,7 +13,8 @@ TEST_F(Startup, SessionStartsInFreehandSpiralzWithItsDefaults) {
   const std::pair<int, int> values[] = {{m().ForeClr, 0xFFFFFF}, {m().BackClr, 0x808080}, {m().StepSize, 40},
                                         {m().SpiralStep, 12},    {f().AirSpread, 5},      {f().AutoDrawX, 500},
                                         {f().AutoDrawSpeed, 4},  {m().DrawWidth, 1},      {int(f().fX.Left), 2400},
-                                        {int(f().fHelp.Top), 1020}};
+                                        {int(f().fHelp.Top), 1020},
+                                        {int(f().Width), 13760},    {int(f().Height), 10545}};
   for (size_t i = 0; i < std::size(values); ++i) EXPECT_EQ(values[i].first, values[i].second) << "value " << i;
   EXPECT_EQ(m().CurrentFile, "");
   EXPECT_EQ(f().PicPaint.FontName.get(), "Arial");
