@@ -158,8 +158,12 @@ TEST_F(BitmapTest, ScaleModesAndUserScale) {
   EXPECT_DOUBLE_EQ(b.toPixelX(0), 200);
   b.ScaleMode = 3;
   EXPECT_FLOAT_EQ(b.ScaleLeft, 0);
-  b.ScaleTop = -10;  // a moved origin alone makes a user scale too
-  EXPECT_EQ(b.ScaleMode, 0);
+  for (Prop<Single>* origin : {&b.ScaleLeft, &b.ScaleTop}) {
+    *origin = -10;  // a moved origin alone makes a user scale too
+    EXPECT_EQ(b.ScaleMode, 0);
+    b.ScaleMode = 3;
+  }
+  b.ScaleTop = -10;
   b.PSet(0, 0, 0x0000FF);
   EXPECT_EQ(px(b, 0, 10), 0x0000FF);
   b.ScaleMode = 3;
