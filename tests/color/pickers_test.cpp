@@ -1,7 +1,9 @@
-// Picking colours: the swatch, the Color Option box, the swap, the number keys, the canvas pick.
+// Picking colours: the swatch, the Color Option box, the swap, the number keys, the colour parts.
 #include "color/ColourPickers.h"
-#include "surface/Device.h"
+#include "core/Keyboard.h"
+#include "support/KeyInput.h"
 #include "support/ProgramFixture.h"
+#include "surface/Device.h"
 
 namespace qp::test {
 namespace {
@@ -26,22 +28,17 @@ TEST_F(ColourPickersTest, SwatchChartRunsFromLightToDarkWithHuesAcross) {
   EXPECT_EQ(redOf(gray), blueOf(gray));
 }
 
-TEST_F(ColourPickersTest, SwatchFollowsThePointerUnlessCtrlIsHeld) {
-  hoverSwatch(40, 20);
-  const Colour picked = GetPixel(f().pColor, 40, 20);
+TEST_F(ColourPickersTest, SwatchAndColorOptionBoxGiveTheirColourToForeOrBack) {
+  const Colour back = m().BackClr;
+  hoverSwatch(100, 10);
+  const Colour picked = GetPixel(f().pColor, 100, 10);
   EXPECT_EQ(f().lColor.BackColor, picked);
   EXPECT_EQ(f().shErSize.FillColor, picked);
   EXPECT_EQ(f().shErSize.BorderColor, picked);
   EXPECT_NE(m().ForeClr, picked);  // the colour only waits in the box
-  f().CtrlDown = -1;
+  f().CtrlDown = -1;               // with Ctrl the box stays as it is
   hoverSwatch(200, 40);
   EXPECT_EQ(f().lColor.BackColor, picked);
-}
-
-TEST_F(ColourPickersTest, SwatchAndColorOptionBoxGiveTheirColourToForeOrBack) {
-  const Colour back = m().BackClr;
-  hoverSwatch(100, 10);
-  const Colour picked = f().lColor.BackColor;
   f().pColor.raiseMouseDown(vbLeftButton, 0, 1500, 150);
   EXPECT_EQ(m().ForeClr, picked);
   EXPECT_EQ(f().lForclr.BackColor, picked);
@@ -50,7 +47,6 @@ TEST_F(ColourPickersTest, SwatchAndColorOptionBoxGiveTheirColourToForeOrBack) {
   f().pColor.raiseMouseUp(vbRightButton, 0, 1500, 150);
   EXPECT_EQ(m().BackClr, picked);
   EXPECT_EQ(f().lBkclr.BackColor, picked);
-
   f().lColor.BackColor = 0x123456;
   f().lColor.raiseMouseDown(vbRightButton, 0, 10, 10);  // the right button acts at its release
   EXPECT_EQ(m().ForeClr, picked);
@@ -87,6 +83,9 @@ TEST_F(ColourPickersTest, SwapExchangesColoursButLeavesTheCanvasPen) {
   EXPECT_EQ(m().ForeClr, 0x00FF00);
   EXPECT_EQ(m().BackClr, 0x0000FF);
   EXPECT_EQ(f().PicPaint.ForeColor, 0x0000FF);  // until a tool or ApplyColors sets it
+  // The text tools' bars follow: second colour in 0 to 2, draw colour in 3 to 5, red first.
+  const int bars[] = {0xFF, 0, 0, 0, 0xFF, 0};
+  for (int i = 0; i < 6; ++i) EXPECT_EQ(f().HS1(i).Value.get(), bars[i]) << "HS1(" << i << ")";
   f().lForclr.raiseMouseUp(vbRightButton, 0, 10, 10);
   EXPECT_EQ(m().ForeClr, 0x0000FF);
   EXPECT_EQ(m().BackClr, 0x00FF00);
@@ -95,40 +94,30 @@ TEST_F(ColourPickersTest, SwapExchangesColoursButLeavesTheCanvasPen) {
 }
 
 TEST_F(ColourPickersTest, ColorPartSplitsBytesAndAlwaysStoresRed) {
-  EXPECT_EQ(ColorPart(s(), 0x336699, 0), 0x99);
-  EXPECT_EQ(ColorPart(s(), 0x336699, 1), 0x66);
   m().ClrRed = 7;
-  EXPECT_EQ(ColorPart(s(), 0x336699, 2), 0x33);
-  EXPECT_EQ(m().ClrRed, 0x99);
-  // -1, the colour of a point off the picture, reads as white.
-  EXPECT_EQ(ColorPart(s(), -1, 1), 255);
-  EXPECT_EQ(m().ClrRed, 255);
+  // Colour, part, the byte; -1, the colour of a point off the picture, reads as white.
+  for (const auto& [c, part, byte, red] : {std::tuple{0x336699, 0, 0x99, 0x99}, std::tuple{0x336699, 1, 0x66, 0x99},
+                                            std::tuple{0x336699, 2, 0x33, 0x99}, std::tuple{-1, 1, 255, 255},
+                                            std::tuple{0x336699, 3, 0, 0x99}, std::tuple{0x336699, -1, 0, 0x99}}) {
+    EXPECT_EQ(ColorPart(s(), c, part), byte) << c << " part " << part;
+    EXPECT_EQ(m().ClrRed, red);
+  }
 }
 
-TEST_F(ColourPickersTest, ColourKeysChooseAColourAndItsOption) {
-  ColourKey(s(), 3, true);
-  EXPECT_EQ(f().lColor.BackColor, 0xFF0000);
-  EXPECT_EQ(f().lForclr.BackColor, 0xFF0000);
-  EXPECT_EQ(m().ForeClr, 0xFF0000);
-  EXPECT_EQ(m().ColorOption, 3);
-  ColourKey(s(), 5, true);
-  EXPECT_EQ(m().ForeClr, RGB(0, 255, 255));
-  ColourKey(s(), 7, false);  // gray is no Colour Option
-  EXPECT_EQ(m().ForeClr, RGB(155, 155, 155));
-  EXPECT_EQ(m().ColorOption, 5);
-}
-
-TEST_F(ColourPickersTest, CtrlRightClickOnTheCanvasPicksItsColour) {
-  choose(f().mPencil);
-  f().PicPaint.Line(1500, 1500, 1500, 1500, 0x2040C0);
-  f().CtrlDown = -1;
-  press(1500, 1500, vbRightButton);
-  release(1500, 1500, vbRightButton);
-  EXPECT_EQ(m().ForeClr, 0x2040C0);
-  EXPECT_EQ(f().lForclr.BackColor, 0x2040C0);
-  EXPECT_EQ(f().lColor.BackColor, 0x2040C0);
-  EXPECT_EQ(f().shErSize.FillColor, 0x2040C0);
-  EXPECT_EQ(pixel(100, 100), 0x2040C0);  // no undo: the picture stays
+TEST_F(ColourPickersTest, NumberKeysChooseAColourAndItsOption) {
+  // The key, then the Colour Option and the colour it leaves.
+  const struct { int key, option; Colour c; } keys[] = {
+      {vbKey1 + 3, 3, 0xFF0000}, {vbKeyNumpad0 + 5, 5, RGB(0, 255, 255)}, {vbKey1 + 1, 1, 0x0000FF},
+      {vbKey8, 1, RGB(155, 155, 155)},  // gray is no Colour Option
+  };
+  for (const auto& k : keys) {
+    windowKeyDown(f(), k.key);
+    EXPECT_EQ(m().ColorOption, k.option) << k.key;
+    EXPECT_EQ(m().ForeClr, k.c) << k.key;
+    EXPECT_EQ(f().lColor.BackColor, k.c);
+    EXPECT_EQ(f().lForclr.BackColor, k.c);
+  }
+  EXPECT_EQ(f().SwatchKey, 7);
 }
 
 }  // namespace

@@ -10,32 +10,18 @@ namespace {
 
 class KeyboardTest : public PencilTest {
  protected:
-  void key(int code) {
-    windowKeyDown(f(), code);
-    windowKeyUp(f(), code);
+  void key(int code, int times = 1) {
+    for (int i = 0; i < times; ++i) windowKey(f(), code);
   }
 };
 
 TEST_F(KeyboardTest, EnterAndShiftJumpTheWidthToItsLimits) {
-  key(vbKeyReturn);
-  EXPECT_EQ(m().DrawWidth, 24);
-  EXPECT_EQ(f().vPencil.Value.get(), 24);
-  EXPECT_EQ(f().lPenVal.Caption.get(), "Draw Width : 24");
-  key(vbKeyShift);
-  EXPECT_EQ(m().DrawWidth, 4);
-  EXPECT_EQ(f().vPencil.Value.get(), 4);
-  EXPECT_EQ(f().lPenVal.Caption.get(), "Draw Width : 4");
-}
-
-TEST_F(KeyboardTest, ColourKeysChooseAColourOptionAndItsColour) {
-  key(vbKey1 + 2);  // "3"
-  EXPECT_EQ(m().ColorOption, 2);
-  EXPECT_EQ(f().SwatchKey, 2);
-  key(vbKeyNumpad0 + 5);
-  EXPECT_EQ(m().ColorOption, 5);
-  key(vbKey8);  // gray is a colour, not an option
-  EXPECT_EQ(f().SwatchKey, 7);
-  EXPECT_EQ(m().ColorOption, 5);
+  for (const auto& [code, width] : {std::pair{int(vbKeyReturn), 24}, std::pair{int(vbKeyShift), 4}}) {
+    key(code);
+    EXPECT_EQ(m().DrawWidth, width);
+    EXPECT_EQ(f().vPencil.Value.get(), width);
+    EXPECT_EQ(f().lPenVal.Caption.get(), QString("Draw Width : %1").arg(width));
+  }
 }
 
 TEST_F(KeyboardTest, WithATextPanelOpenOnlyTheKeysThatTypeNothingAct) {
@@ -46,39 +32,28 @@ TEST_F(KeyboardTest, WithATextPanelOpenOnlyTheKeysThatTypeNothingAct) {
   EXPECT_NE(m().ColorOption, 3);
   drawDot(1500, 1500);
   key(vbKeyBack);
-  EXPECT_EQ(pixel(100, 100), 0xFFFFFF);
+  EXPECT_EQ(pixel(100, 100), kWhite);
+  key(vbKeyCapital);
+  EXPECT_FALSE(f().lnX.Visible);
   key(vbKeyNumpad0 + 3);  // the keypad still chooses
   EXPECT_EQ(m().ColorOption, 3);
   key(vbKeyReturn);
   EXPECT_EQ(m().DrawWidth, 24);
-
   f().fText.Visible = false;
   f().fShad.Visible = true;
   key(vbKeyShift);
   EXPECT_EQ(m().DrawWidth, 24);
 }
 
-TEST_F(KeyboardTest, BackspaceUndoesOnceAndWithCtrlTwice) {
-  drawDot(1500, 1500);
-  drawDot(3000, 3000);
-  key(vbKeyBack);
-  EXPECT_EQ(pixel(100, 100), 0xFFFFFF);
-  EXPECT_EQ(pixel(200, 200), 0x000000);
-  windowKeyDown(f(), vbKeyControl);
-  key(vbKeyBack);
-  windowKeyUp(f(), vbKeyControl);
-  EXPECT_EQ(pixel(100, 100), 0x000000);
-}
-
-TEST_F(KeyboardTest, DeleteClearsForgetsTheFileAndCanBeUndone) {
+TEST_F(KeyboardTest, DeleteClearsForgetsTheFileAndBackspaceUndoesIt) {
   m().CurrentFile = "C:\\pictures\\sky.bmp";
   drawDot(1500, 1500);
   key(vbKeyDelete);
-  EXPECT_EQ(pixel(100, 100), 0x000000);
+  EXPECT_EQ(pixel(100, 100), kBlack);
   EXPECT_EQ(m().CurrentFile, "");
   EXPECT_TRUE(f().Caption.get().contains("Untitled.bmp"));
   key(vbKeyBack);
-  EXPECT_EQ(pixel(100, 100), 0xFFFFFF);
+  EXPECT_EQ(pixel(100, 100), kWhite);
 }
 
 TEST_F(KeyboardTest, SpacebarCopiesTheCanvasAndSetsAReturnPoint) {
@@ -90,14 +65,13 @@ TEST_F(KeyboardTest, SpacebarCopiesTheCanvasAndSetsAReturnPoint) {
   // Strokes after the return point come off with one undo; the dot stays.
   f().PicPaint.Line(0, 0, 6000, 6000, 0x0000FF);
   key(vbKeyBack);
-  EXPECT_EQ(pixel(100, 100), 0xFFFFFF);
-  EXPECT_EQ(pixel(300, 300), 0x000000);
+  EXPECT_EQ(pixel(100, 100), kWhite);
+  EXPECT_EQ(pixel(300, 300), kBlack);
 }
 
-TEST_F(KeyboardTest, InsertFloatsTheClipboardsPicture) {
-  key(vbKeyInsert);  // nothing there yet: nothing happens
+TEST_F(KeyboardTest, InsertFloatsTheClipboardsPictureWhenThereIsOne) {
+  key(vbKeyInsert);
   EXPECT_EQ(m().PaintMode, 0);
-  EXPECT_FALSE(f().pTemp.Visible);
   QImage red(20, 10, QImage::Format_RGB32);
   red.fill(qRgb(255, 0, 0));
   headless.clipboard.SetData(red);
@@ -107,27 +81,23 @@ TEST_F(KeyboardTest, InsertFloatsTheClipboardsPicture) {
 }
 
 TEST_F(KeyboardTest, FunctionKeysStepTheWidthIntervalAndTheColourMode) {
-  key(vbKeyF8);
-  EXPECT_EQ(f().tPenUp.Interval.get(), 110);
-  EXPECT_EQ(f().tPenDwn.Interval.get(), 110);
-  EXPECT_EQ(f().lStats.Caption.get(), "Current Draw Width Interval : 110");
-  for (int i = 0; i < 20; ++i) key(vbKeyF8);
-  EXPECT_EQ(f().tPenUp.Interval.get(), 20);  // the fastest
-  for (int i = 0; i < 50; ++i) key(vbKeyF7);
-  EXPECT_EQ(f().tPenDwn.Interval.get(), 400);  // the slowest
+  // The key, how often it is pressed, then the width timers' interval or the colour mode.
+  const struct { int code, times, interval, colourMode; } steps[] = {
+      {vbKeyF8, 1, 110, 0}, {vbKeyF8, 20, 20, 0},  // the fastest
+      {vbKeyF7, 50, 400, 0},                       // the slowest
+      {vbKeyF12, 1, 400, 1}, {vbKeyF12, 5, 400, 3}, {vbKeyF11, 1, 400, 2}, {vbKeyF11, 5, 400, 0}};
+  for (const auto& st : steps) {
+    key(st.code, st.times);
+    EXPECT_EQ(f().tPenUp.Interval.get(), st.interval) << st.code << " x" << st.times;
+    EXPECT_EQ(f().tPenDwn.Interval.get(), st.interval);
+    EXPECT_EQ(f().vColmode.Value.get(), st.colourMode) << st.code << " x" << st.times;
+  }
+  EXPECT_EQ(f().lStats.Caption.get(), "Standard");
+  key(vbKeyF7);
   EXPECT_EQ(f().lStats.Caption.get(), "Current Draw Width Interval : 400");
-
-  key(vbKeyF12);
-  EXPECT_EQ(f().vColmode.Value.get(), 1);
-  for (int i = 0; i < 5; ++i) key(vbKeyF12);
-  EXPECT_EQ(f().vColmode.Value.get(), 3);
-  key(vbKeyF11);
-  EXPECT_EQ(f().vColmode.Value.get(), 2);
-  for (int i = 0; i < 5; ++i) key(vbKeyF11);
-  EXPECT_EQ(f().vColmode.Value.get(), 0);
 }
 
-TEST_F(KeyboardTest, HelpAndKeyListKeysReachTheirMenuItems) {
+TEST_F(KeyboardTest, HelpKeyListAndGridKeys) {
   int help = 0, keys = 0;
   f().mHelp.Click = [&] { ++help; };
   f().mKeys.Click = [&] { ++keys; };
@@ -140,17 +110,13 @@ TEST_F(KeyboardTest, HelpAndKeyListKeysReachTheirMenuItems) {
   key(vbKeyF2);
   EXPECT_EQ(keys, 1);
   EXPECT_EQ(help, 2);
-}
-
-TEST_F(KeyboardTest, CapsLockShowsTheGridAndCColoursIt) {
+  // Caps Lock shows the grid and C colours it.
+  f().fShad.Visible = false;
   key(vbKeyCapital);
   EXPECT_TRUE(f().lnX.Visible);
   key(vbKeyC);
   EXPECT_EQ(f().lnX.BorderColor.get(), m().ForeClr.value());
   EXPECT_EQ(f().lnY.BorderColor.get(), m().BackClr.value());
-  key(vbKeyCapital);
-  EXPECT_FALSE(f().lnX.Visible);
-  f().fText.Visible = true;
   key(vbKeyCapital);
   EXPECT_FALSE(f().lnX.Visible);
 }
@@ -160,13 +126,11 @@ TEST_F(KeyboardTest, KeysWithoutARowLeaveTheSessionAlone) {
   for (int code : {int(vbKeyZ), int(vbKeyF9), int('W'), int('O'), int('S'), 65}) key(code);
   EXPECT_EQ(m().PaintMode, 0);
   EXPECT_EQ(m().DrawWidth, 1);
-  EXPECT_EQ(pixel(100, 100), 0xFFFFFF);
+  EXPECT_EQ(pixel(100, 100), kWhite);
   EXPECT_FALSE(program->quitRequested());
-}
-
-TEST_F(KeyboardTest, AnyKeyUpShowsTheWidthBarsValue) {
-  f().lPenVal.Caption = "";
+  // Any key up shows the width bar's value.
   f().vPencil.Value = 7;
+  f().lPenVal.Caption = "";
   windowKeyUp(f(), 'A');
   EXPECT_EQ(f().lPenVal.Caption.get(), "Draw Width : 7");
 }

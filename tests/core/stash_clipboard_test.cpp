@@ -7,23 +7,13 @@ namespace qp::test {
 namespace {
 
 constexpr Colour kRed = 0x0000FF;
+using EditTest = PencilTest;
 
-class EditTest : public PencilTest {
- protected:
-  // A red picture of w x h pixels on the clipboard.
-  void clipboardHoldsRed(int w, int h) {
-    QImage red(w, h, QImage::Format_RGB32);
-    red.fill(qRgb(255, 0, 0));
-    headless.clipboard.SetData(red);
-  }
-};
-
-TEST_F(EditTest, TheStashIsFetchedOnlyAfterASendAndAsOftenAsWanted) {
+TEST_F(EditTest, TheStashIsFetchedOnlyAfterASendAsOftenAsWantedAtItsOwnSize) {
   EXPECT_FALSE(f().mGet.Enabled);
   drawDot(1500, 1500);
   choose(f().mGet);  // disabled: nothing comes
   EXPECT_EQ(pixel(100, 100), kWhite);
-
   choose(f().mSendStash);
   EXPECT_TRUE(f().mGet.Enabled);
   choose(f().mClear);
@@ -34,15 +24,10 @@ TEST_F(EditTest, TheStashIsFetchedOnlyAfterASendAndAsOftenAsWanted) {
   choose(f().mnuUndo);  // the fetch can be undone
   EXPECT_EQ(pixel(200, 200), kWhite);
   EXPECT_EQ(pixel(100, 100), kBlack);
-  choose(f().mGet);  // and the stash is still there
-  EXPECT_EQ(pixel(100, 100), kWhite);
-}
-
-TEST_F(EditTest, TheStashKeepsTheCanvasSize) {
-  choose(f().mSendStash);
   const Single w = f().PicPaint.Width, h = f().PicPaint.Height;
   choose(f().m64x48);
-  choose(f().mGet);
+  choose(f().mGet);  // and the stash is still there, at the size it was sent
+  EXPECT_EQ(pixel(100, 100), kWhite);
   EXPECT_LT(f().PicPaint.Width.get(), w);
   EXPECT_LT(f().PicPaint.Height.get(), h);
 }
@@ -56,8 +41,11 @@ TEST_F(EditTest, CopyPutsTheWholeCanvasOnTheClipboardAndLeavesIt) {
   EXPECT_EQ(pixel(100, 100), kWhite);
 }
 
-TEST_F(EditTest, APasteFloatsAtTheCornerUnderABlinkingFrame) {
-  clipboardHoldsRed(20, 10);
+TEST_F(EditTest, APasteFloatsUnderABlinkingFrameAndAClickSetsItDownWithinTheFrame) {
+  drawDot(1500, 1500);
+  QImage red(20, 10, QImage::Format_RGB32);
+  red.fill(qRgb(255, 0, 0));
+  headless.clipboard.SetData(red);
   choose(f().mnuPaste);
   EXPECT_EQ(m().PaintMode, 22);
   EXPECT_TRUE(f().pTemp.Visible);
@@ -68,18 +56,10 @@ TEST_F(EditTest, APasteFloatsAtTheCornerUnderABlinkingFrame) {
   EXPECT_EQ(f().DrawShape.Width.get(), 300);
   EXPECT_EQ(f().DrawShape.Height.get(), 150);
   EXPECT_EQ(pixel(33, 33), kBlack);  // not on the canvas yet
-
-  EXPECT_EQ(f().DrawShape.BorderColor.get(), 0xC0C0C0);
-  headless.loop.advance(200);
-  EXPECT_EQ(f().DrawShape.BorderColor.get(), 0xE0E0E0);
-  headless.loop.advance(200);
-  EXPECT_EQ(f().DrawShape.BorderColor.get(), 0xC0C0C0);
-}
-
-TEST_F(EditTest, ClickingTheFloatSetsItDownWithinItsFrame) {
-  drawDot(1500, 1500);
-  clipboardHoldsRed(20, 10);
-  choose(f().mnuPaste);
+  for (Colour border : {0xC0C0C0, 0xE0E0E0, 0xC0C0C0}) {
+    EXPECT_EQ(f().DrawShape.BorderColor.get(), border);
+    headless.loop.advance(200);
+  }
   f().DrawShape.Width = 600;  // a frame stretched to twice the width stretches the picture
   f().pTemp.raiseMouseDown(vbRightButton, 0, 10, 10);  // a right click does not set it down
   EXPECT_TRUE(f().pTemp.Visible);

@@ -1,4 +1,5 @@
-// The undo levels as the user meets them: the menu, the keys, clearing and the canvas colour.
+// The undo levels as the user meets them: the menu, the keys, the right click, clearing, new
+// canvases and the canvas colour.
 #include <QImage>
 
 #include "core/Keyboard.h"
@@ -8,57 +9,76 @@
 namespace qp::test {
 namespace {
 
-
 class UndoTest : public PencilTest {
  protected:
-  void key(int code) {
-    windowKeyDown(f(), code);
-    windowKeyUp(f(), code);
+  void ctrlBackspace() {
+    windowKeyDown(f(), vbKeyControl);
+    windowKey(f(), vbKeyBack);
+    windowKeyUp(f(), vbKeyControl);
   }
+  int canvasWidth() { return static_cast<int>(f().PicPaint.Width / 15); }
+  int canvasHeight() { return static_cast<int>(f().PicPaint.Height / 15); }
 };
 
-TEST_F(UndoTest, UndoTwiceFromTheMenuGivesTheSamePictureAsOnce) {
-  drawDot(1500, 1500);
-  drawDot(3000, 3000);
-  choose(f().mnuUndo);
-  const QImage once = f().PicPaint.Image;
-  choose(f().mnuUndo);
-  EXPECT_EQ(QImage(f().PicPaint.Image), once);
-  EXPECT_EQ(pixel(100, 100), kWhite);
-  EXPECT_EQ(pixel(200, 200), kBlack);
+TEST_F(UndoTest, OneLevelTakesTheLastStrokeAndRepeatingItChangesNothing) {
+  // Each way to undo once, after two dots: the first dot stays, the second goes.
+  const std::function<void()> ways[] = {[this] { choose(f().mnuUndo); }, [this] { windowKey(f(), vbKeyBack); },
+                                        [this] { release(30, 30, vbRightButton); }};
+  for (const auto& undo : ways) {
+    choose(f().mClear);
+    drawDot(1500, 1500);
+    drawDot(3000, 3000);
+    undo();
+    const QImage once = f().PicPaint.Image;
+    EXPECT_EQ(pixel(100, 100), kWhite);
+    EXPECT_EQ(pixel(200, 200), kBlack);
+    undo();
+    EXPECT_EQ(QImage(f().PicPaint.Image), once);
+  }
 }
 
-TEST_F(UndoTest, UndoStopsTheToolsRunning) {
+TEST_F(UndoTest, AfterAModeChangeTheSecondLevelGivesBackTheWholeCanvas) {
+  const int w = canvasWidth(), h = canvasHeight();
+  ASSERT_GT(w, 100);
+  drawDot(15.0f * (w - 5), 15.0f * (h - 5));  // a dot far from the corner a small holder keeps
+  drawDot(1500, 1500);
+  choose(f().mShadow);  // the mode change takes a snapshot of its own
+  choose(f().mnuUndo);
+  EXPECT_EQ(pixel(100, 100), kWhite);  // the canvas as it stood at the change
+  ctrlBackspace();
+  EXPECT_EQ(canvasWidth(), w);
+  EXPECT_EQ(canvasHeight(), h);
+  EXPECT_EQ(pixel(100, 100), kBlack);      // the last stroke is gone
+  EXPECT_EQ(pixel(w - 5, h - 5), kWhite);  // the one before it is there, far out
+  EXPECT_TRUE(f().Caption.get().endsWith(QString("%1 x %2").arg(w).arg(h)));
+}
+
+// A new canvas size, then a stroke and undo: the canvas stays at the size the title gives.
+TEST_F(UndoTest, UndoKeepsTheSizeChosenForTheCanvas) {
+  choose(f().m64x48);
+  drawDot(1500, 1500);
+  release(1500, 1500, vbRightButton);
+  EXPECT_EQ(canvasWidth(), 640);
+  EXPECT_EQ(canvasHeight(), 480);
+  EXPECT_EQ(f().PicUndo.Width.get(), f().PicPaint.Width.get());
+  EXPECT_EQ(pixel(100, 100), kBlack);
+  EXPECT_TRUE(f().Caption.get().endsWith("640 x 480"));
+}
+
+TEST_F(UndoTest, TheClearCommandKeepsTheFileAndCannotBeUndoneAndUndoStopsTheTools) {
+  drawDot(1500, 1500);
+  m().CurrentFile = "C:\\pictures\\sky.bmp";
+  choose(f().mClear);
+  EXPECT_EQ(pixel(100, 100), kBlack);
+  EXPECT_EQ(m().CurrentFile, "C:\\pictures\\sky.bmp");
+  choose(f().mnuUndo);
+  EXPECT_EQ(pixel(100, 100), kBlack);
+  // Undo stops the tools running.
   f().tPenUp.Enabled = true;
   f().tAir.Enabled = true;
   choose(f().mnuUndo);
   EXPECT_FALSE(f().tPenUp.Enabled);
   EXPECT_FALSE(f().tAir.Enabled);
-}
-
-TEST_F(UndoTest, DeleteCanBeUndoneButTheClearCommandCannot) {
-  drawDot(1500, 1500);
-  key(vbKeyDelete);
-  choose(f().mnuUndo);
-  EXPECT_EQ(pixel(100, 100), kWhite);
-
-  m().CurrentFile = "C:\\pictures\\sky.bmp";
-  choose(f().mClear);
-  EXPECT_EQ(pixel(100, 100), kBlack);
-  EXPECT_EQ(m().CurrentFile, "C:\\pictures\\sky.bmp");  // the menu command keeps the file
-  choose(f().mnuUndo);
-  EXPECT_EQ(pixel(100, 100), kBlack);
-}
-
-TEST_F(UndoTest, AfterAModeChangeTheStrokeNeedsTheSecondLevel) {
-  drawDot(1500, 1500);
-  choose(f().mShadow);  // the mode change takes a snapshot of its own
-  choose(f().mnuUndo);
-  EXPECT_EQ(pixel(100, 100), kWhite);  // the canvas as it stood at the change
-  windowKeyDown(f(), vbKeyControl);
-  key(vbKeyBack);
-  windowKeyUp(f(), vbKeyControl);
-  EXPECT_EQ(pixel(100, 100), kBlack);
 }
 
 TEST_F(UndoTest, TheCanvasColourReplacesThePictureForGood) {
@@ -73,9 +93,13 @@ TEST_F(UndoTest, TheCanvasColourReplacesThePictureForGood) {
   EXPECT_EQ(pixel(300, 300), 0x0000FF);
 }
 
-TEST_F(UndoTest, NewGivesAnEmptyUntitledPencilCanvasInTheCanvasColour) {
-  choose(f().mShadow);
+TEST_F(UndoTest, NewGivesAnEmptyUntitledPencilCanvasInTheCanvasColourAndResetKeepsThePicture) {
   drawDot(1500, 1500);
+  m().CurrentFile = "C:\\pictures\\sky.bmp";
+  choose(f().mCvReset);
+  EXPECT_EQ(m().CurrentFile, "");
+  EXPECT_EQ(pixel(100, 100), kWhite);
+  choose(f().mShadow);
   m().CurrentFile = "C:\\pictures\\sky.bmp";
   f().mLock.Checked = true;
   f().CanvasLocked = -1;
@@ -88,14 +112,6 @@ TEST_F(UndoTest, NewGivesAnEmptyUntitledPencilCanvasInTheCanvasColour) {
   EXPECT_EQ(f().CanvasLocked, 0);
   EXPECT_EQ(pixel(100, 100), 0x00FF00);
   EXPECT_TRUE(f().Caption.get().contains("Untitled.bmp"));
-}
-
-TEST_F(UndoTest, ResetForgetsTheFileAndKeepsThePicture) {
-  drawDot(1500, 1500);
-  m().CurrentFile = "C:\\pictures\\sky.bmp";
-  choose(f().mCvReset);
-  EXPECT_EQ(m().CurrentFile, "");
-  EXPECT_EQ(pixel(100, 100), kWhite);
 }
 
 }  // namespace

@@ -12,143 +12,121 @@ class WidthKeysTest : public ProgramTest {
     ProgramTest::SetUp();
     choose(f().mPencil);
   }
-  void keyDown(int code) { canvasKeyDown(f(), code); }
-  void keyUp(int code) { canvasKeyUp(f(), code); }
-  void ticks(Timer& t, int n) { headless.loop.advance(static_cast<std::int64_t>(t.Interval) * n); }
+  // Holds an arrow for n ticks of its timer, then lets it go.
+  void hold(int code, int n, bool letGo = true) {
+    canvasKeyDown(f(), code);
+    Timer& t = code == vbKeyUp || code == vbKeyRight ? f().tPenUp : f().tPenDwn;
+    headless.loop.advance(static_cast<std::int64_t>(t.Interval) * n);
+    if (letGo) canvasKeyUp(f(), code);
+  }
 };
 
 TEST_F(WidthKeysTest, UpAndRightWidenWhileHeldLeftAndDownNarrow) {
   const int step = m().StepSize;
-  keyDown(vbKeyUp);
-  ticks(f().tPenUp, 3);
-  EXPECT_EQ(m().DrawWidth, 4);
-  EXPECT_EQ(m().StepSize, step + 30);
-  EXPECT_EQ(f().vPencil.Value.get(), 4);
-  EXPECT_EQ(f().PicPaint.DrawWidth.get(), 4);
-  EXPECT_EQ(f().lPenVal.Caption.get(), "Draw Width : 4");
-  keyUp(vbKeyUp);
-  EXPECT_FALSE(f().tPenUp.Enabled);
-  ticks(f().tPenUp, 3);
-  EXPECT_EQ(m().DrawWidth, 4);
-
-  keyDown(vbKeyRight);
-  ticks(f().tPenUp, 4);
-  keyUp(vbKeyRight);
-  EXPECT_EQ(m().DrawWidth, 8);
-  keyDown(vbKeyLeft);
-  ticks(f().tPenDwn, 1);
-  keyUp(vbKeyLeft);
-  EXPECT_EQ(m().DrawWidth, 7);
-  keyDown(vbKeyDown);
-  ticks(f().tPenDwn, 2);
-  keyUp(vbKeyDown);
-  EXPECT_EQ(m().DrawWidth, 5);
-  EXPECT_EQ(f().lPenVal.Caption.get(), "Draw Width : 5");
+  const struct { int code, ticks, width; } holds[] = {
+      {vbKeyUp, 3, 4}, {vbKeyRight, 4, 8}, {vbKeyLeft, 1, 7}, {vbKeyDown, 2, 5}};
+  for (const auto& h : holds) {
+    hold(h.code, h.ticks);
+    EXPECT_EQ(m().DrawWidth, h.width) << h.code;
+    EXPECT_EQ(f().vPencil.Value.get(), h.width);
+    EXPECT_EQ(f().PicPaint.DrawWidth.get(), h.width);
+    EXPECT_EQ(f().lPenVal.Caption.get(), QString("Draw Width : %1").arg(h.width));
+    EXPECT_FALSE(f().tPenUp.Enabled || f().tPenDwn.Enabled);  // the key's release stops its timer
+  }
+  EXPECT_EQ(m().StepSize, step + 10 * (3 + 4 - 1 - 2));  // the spacing follows by ten a step
 }
 
 TEST_F(WidthKeysTest, TheWidthStopsWhenItMeetsItsLimit) {
-  keyDown(vbKeyUp);
-  ticks(f().tPenUp, 40);
+  hold(vbKeyUp, 40, false);
   EXPECT_EQ(m().DrawWidth, 24);
   EXPECT_FALSE(f().tPenUp.Enabled);
   EXPECT_EQ(f().lTell.Caption.get(), "Maximum");
   EXPECT_EQ(f().lHelp.ForeColor.get(), 0xC0C0FF);
-  keyUp(vbKeyUp);
+  canvasKeyUp(f(), vbKeyUp);
   EXPECT_EQ(f().lTell.Caption.get(), "");
-
   m().StepSize = 70;  // the spacing falls with the width, but not under 50
-  keyDown(vbKeyDown);
-  ticks(f().tPenDwn, 40);
+  hold(vbKeyDown, 40, false);
   EXPECT_EQ(m().DrawWidth, 4);
   EXPECT_EQ(m().StepSize, 50);
   EXPECT_FALSE(f().tPenDwn.Enabled);
   EXPECT_EQ(f().lTell.Caption.get(), "Minimum");
   EXPECT_EQ(f().lHelp.ForeColor.get(), 0x00FFFF);
-}
-
-TEST_F(WidthKeysTest, AWidthAlreadyPastTheLimitRunsOnToTheBarsEnd) {
+  // A width already past the limit runs on to the bar's end: only equality with the limit stops it.
   m().DrawWidth = 30;
-  keyDown(vbKeyUp);
-  ticks(f().tPenUp, 200);
+  hold(vbKeyUp, 200, false);
   EXPECT_EQ(m().DrawWidth, 160);
-  EXPECT_TRUE(f().tPenUp.Enabled);  // nothing but equality with the limit stops it
+  EXPECT_TRUE(f().tPenUp.Enabled);
   EXPECT_EQ(m().StepSize, 951 + 9);  // the spacing has its own ceiling
 }
 
-TEST_F(WidthKeysTest, HoldKeepsTheWidthMovingUntilTheLimit) {
+TEST_F(WidthKeysTest, HoldKeepsTheWidthMovingUntilTheLimitAndTheTimersNeverRunTogether) {
   f().ckHold.Value = 1;
-  keyDown(vbKeyUp);
-  ticks(f().tPenUp, 2);
-  keyUp(vbKeyUp);
+  hold(vbKeyUp, 2);
   EXPECT_TRUE(f().tPenUp.Enabled);
-  ticks(f().tPenUp, 40);
+  headless.loop.advance(f().tPenUp.Interval * 40);
   EXPECT_EQ(m().DrawWidth, 24);
   EXPECT_FALSE(f().tPenUp.Enabled);
-}
-
-TEST_F(WidthKeysTest, TheTwoWidthTimersNeverRunTogether) {
-  keyDown(vbKeyUp);
-  keyDown(vbKeyLeft);
-  EXPECT_TRUE(f().tPenUp.Enabled);
-  EXPECT_TRUE(f().tPenDwn.Enabled);
-  ticks(f().tPenUp, 1);
+  f().ckHold.Value = 0;
+  canvasKeyDown(f(), vbKeyDown);
+  canvasKeyDown(f(), vbKeyRight);
+  EXPECT_TRUE(f().tPenUp.Enabled && f().tPenDwn.Enabled);
+  headless.loop.advance(f().tPenUp.Interval);
   EXPECT_NE(f().tPenUp.Enabled.get(), f().tPenDwn.Enabled.get());
 }
 
-TEST_F(WidthKeysTest, TheSprayGrowsWithTheWidthOnlyWithTheSecondBox) {
+TEST_F(WidthKeysTest, TheSprayFollowsTheWidthOnlyWithTheSecondBox) {
   m().PaintMode = 3;
-  const int spread = f().AirSpread;
-  keyDown(vbKeyUp);
-  ticks(f().tPenUp, 2);
-  keyUp(vbKeyUp);
-  EXPECT_EQ(f().AirSpread, spread);
-  f().ckVal2.Value = 1;
-  keyDown(vbKeyUp);
-  ticks(f().tPenUp, 2);
-  keyUp(vbKeyUp);
-  EXPECT_EQ(f().AirSpread, spread + 4);
-  f().ckVal2.Value = 0;  // and narrows with it only with the box too
-  f().AirSpread = 20;
-  keyDown(vbKeyDown);
-  ticks(f().tPenDwn, 2);
-  keyUp(vbKeyDown);
-  EXPECT_EQ(f().AirSpread, 20);
+  // The second box, the arrow held two ticks, the spread before and after.
+  const struct { int box, code, before, after; } cases[] = {
+      {0, vbKeyUp, 5, 5}, {1, vbKeyUp, 5, 9}, {0, vbKeyDown, 20, 20}};
+  for (const auto& c : cases) {
+    f().ckVal2.Value = c.box;
+    f().AirSpread = c.before;
+    hold(c.code, 2);
+    EXPECT_EQ(f().AirSpread, c.after) << "box " << c.box << ", key " << c.code;
+  }
+}
+
+TEST_F(WidthKeysTest, AKeyOnThePaintAreaStartsTheTransientColoursOnlyWithTheirBox) {
+  for (int box : {0, 1}) {
+    f().ckDcolz.Value = box;
+    canvasKeyDown(f(), 'A');
+    EXPECT_EQ(f().tDclrz.Enabled.get(), box == 1) << "box " << box;
+    canvasKeyUp(f(), 'A');
+  }
 }
 
 TEST_F(WidthKeysTest, ModesWithoutAWidthIgnoreTheArrows) {
   for (int mode : {14, 17, 18, 19, 21, 25, 26, 29}) {
     m().PaintMode = mode;
-    keyDown(vbKeyUp);
-    keyDown(vbKeyDown);
-    EXPECT_FALSE(f().tPenUp.Enabled) << "mode " << mode;
-    EXPECT_FALSE(f().tPenDwn.Enabled) << "mode " << mode;
+    canvasKeyDown(f(), vbKeyUp);
+    canvasKeyDown(f(), vbKeyDown);
+    EXPECT_FALSE(f().tPenUp.Enabled || f().tPenDwn.Enabled) << "mode " << mode;
   }
   // Simple Shapes widens only for its box run.
   m().PaintMode = 2;
   f().vVal3.Min = 3;
   f().vVal3.Max = 0;
   f().vVal3.Value = 0;
-  keyDown(vbKeyUp);
+  canvasKeyDown(f(), vbKeyUp);
   EXPECT_FALSE(f().tPenUp.Enabled);
   f().vVal3.Value = 3;
-  keyDown(vbKeyUp);
+  canvasKeyDown(f(), vbKeyUp);
   EXPECT_TRUE(f().tPenUp.Enabled);
 }
 
 TEST_F(WidthKeysTest, TheTextBrushGrowsItsFontInstead) {
   m().PaintMode = 20;
-  f().vFont.Value = 108;
-  keyDown(vbKeyUp);
-  ticks(f().tPenUp, 5);
-  EXPECT_EQ(f().vFont.Value.get(), 110);
-  EXPECT_EQ(f().lTell.Caption.get(), "Maximum");
-  EXPECT_EQ(m().DrawWidth, 1);
-  keyUp(vbKeyUp);
-  f().vFont.Value = 14;
-  keyDown(vbKeyDown);
-  ticks(f().tPenDwn, 5);
-  EXPECT_EQ(f().vFont.Value.get(), 12);
-  EXPECT_EQ(f().lTell.Caption.get(), "Minimum");
+  const struct { int code, from, to; const char* tell; } cases[] = {
+      {vbKeyUp, 108, 110, "Maximum"}, {vbKeyDown, 14, 12, "Minimum"}};
+  for (const auto& c : cases) {
+    f().vFont.Value = c.from;
+    hold(c.code, 5, false);
+    EXPECT_EQ(f().vFont.Value.get(), c.to);
+    EXPECT_EQ(f().lTell.Caption.get(), c.tell);
+    EXPECT_EQ(m().DrawWidth, 1);
+    canvasKeyUp(f(), c.code);
+  }
 }
 
 }  // namespace

@@ -73,6 +73,12 @@ TEST_F(FormViewTest, WidgetsSitWhereTheControlsAreInPixels) {
   f.Caption = "Untitled - Quillora Pro";
   view.sync();
   EXPECT_EQ(view.window().windowTitle(), "Untitled - Quillora Pro");
+  // Drawing on the picture is shown.
+  f.PicPaint.Line(0, 0, 1500, 0, 0x0000FF);
+  view.sync();
+  const QImage shot = pic->grab().toImage();
+  EXPECT_EQ(QColor(shot.pixel(50, 0)), QColor(255, 0, 0));
+  EXPECT_EQ(QColor(shot.pixel(50, 50)), QColor(255, 255, 255));
 }
 
 TEST_F(FormViewTest, PressOnPictureReachesMouseDownInItsScale) {
@@ -91,19 +97,9 @@ TEST_F(FormViewTest, PressOnPictureReachesMouseDownInItsScale) {
   EXPECT_EQ(presses[1].shift, vbShiftMask | vbCtrlMask);
   EXPECT_FLOAT_EQ(presses[1].x, 10);
   EXPECT_FLOAT_EQ(presses[1].y, 20);
-}
-
-TEST_F(FormViewTest, ErrorInAHandlerStaysInsideTheView) {
+  // An error in a handler stays inside the view.
   f.PicPaint.MouseDown = [&](int, int, Single, Single) { raiseError(RuntimeError::Overflow); };
-  EXPECT_NO_THROW(press(view.widgetFor(&f.PicPaint), {1, 1}, Qt::LeftButton));
-}
-
-TEST_F(FormViewTest, DrawingOnThePictureIsShown) {
-  f.PicPaint.Line(0, 0, 1500, 0, 0x0000FF);
-  view.sync();
-  const QImage shot = view.widgetFor(&f.PicPaint)->grab().toImage();
-  EXPECT_EQ(QColor(shot.pixel(50, 0)), QColor(255, 0, 0));
-  EXPECT_EQ(QColor(shot.pixel(50, 50)), QColor(255, 255, 255));
+  EXPECT_NO_THROW(press(pic, {1, 1}, Qt::LeftButton));
 }
 
 TEST_F(FormViewTest, MenuActionsRaiseClickAndFollowEnabled) {
@@ -124,7 +120,7 @@ TEST_F(FormViewTest, MenuActionsRaiseClickAndFollowEnabled) {
   EXPECT_EQ(pencil, 1);
 }
 
-TEST_F(FormViewTest, ScrollBarWidgetDrivesValueBothWays) {
+TEST_F(FormViewTest, ScrollBarAndCheckBoxWidgetsDriveTheirControlsBothWays) {
   auto* bar = qobject_cast<QScrollBar*>(view.widgetFor(&f.vVal1));
   ASSERT_NE(bar, nullptr);
   int changes = 0;
@@ -140,12 +136,9 @@ TEST_F(FormViewTest, ScrollBarWidgetDrivesValueBothWays) {
   view.sync();
   EXPECT_EQ(bar->value(), 100);
   EXPECT_EQ(changes, 3) << "showing the program's value raises nothing more";
-}
-
-TEST_F(FormViewTest, CheckBoxClickGoesThroughTheControl) {
   auto* box = qobject_cast<QCheckBox*>(view.widgetFor(&f.ckHold));
   ASSERT_NE(box, nullptr);
-  int clicks = 0;
+  int clicks = 0;  // a check box clicked on screen goes through the control
   f.ckHold.Click = [&] { ++clicks; };
   box->click();
   EXPECT_EQ(f.ckHold.Value, 1);
@@ -176,19 +169,13 @@ TEST_F(FormViewTest, KeysGoToTheFormFirstWithKeyPreview) {
 }
 
 TEST(KeysTest, QtKeysBecomeTheRuntimesCodes) {
-  EXPECT_EQ(keyCodeFor(Qt::Key_A, {}), 65);
-  EXPECT_EQ(keyCodeFor(Qt::Key_7, {}), 55);
-  EXPECT_EQ(keyCodeFor(Qt::Key_7, Qt::KeypadModifier), 103);
-  EXPECT_EQ(keyCodeFor(Qt::Key_Plus, Qt::KeypadModifier), 107);
-  EXPECT_EQ(keyCodeFor(Qt::Key_Minus, Qt::KeypadModifier), 109);
-  EXPECT_EQ(keyCodeFor(Qt::Key_F1, {}), 112);
-  EXPECT_EQ(keyCodeFor(Qt::Key_F12, {}), 123);
-  EXPECT_EQ(keyCodeFor(Qt::Key_Left, {}), 37);
-  EXPECT_EQ(keyCodeFor(Qt::Key_Down, {}), 40);
-  EXPECT_EQ(keyCodeFor(Qt::Key_Enter, Qt::KeypadModifier), 13);
-  EXPECT_EQ(keyCodeFor(Qt::Key_Exclam, Qt::ShiftModifier), 49) << "Shift+1 is still the key 1";
-  EXPECT_EQ(keyCodeFor(Qt::Key_CapsLock, {}), 20);
-  EXPECT_EQ(keyCodeFor(Qt::Key_Delete, {}), 46);
+  const std::tuple<int, Qt::KeyboardModifiers, int> keys[] = {
+      {Qt::Key_A, {}, 65},  {Qt::Key_7, {}, 55},  {Qt::Key_7, Qt::KeypadModifier, 103},
+      {Qt::Key_Plus, Qt::KeypadModifier, 107},   {Qt::Key_Minus, Qt::KeypadModifier, 109},
+      {Qt::Key_F1, {}, 112}, {Qt::Key_F12, {}, 123}, {Qt::Key_Left, {}, 37}, {Qt::Key_Down, {}, 40},
+      {Qt::Key_Enter, Qt::KeypadModifier, 13}, {Qt::Key_Exclam, Qt::ShiftModifier, 49},  // Shift+1 is still 1
+      {Qt::Key_CapsLock, {}, 20}, {Qt::Key_Delete, {}, 46}};
+  for (const auto& [key, mods, code] : keys) EXPECT_EQ(keyCodeFor(key, mods), code) << key;
   EXPECT_EQ(shiftStateFor(Qt::ShiftModifier | Qt::AltModifier), vbShiftMask | vbAltMask);
 }
 

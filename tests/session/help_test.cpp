@@ -8,20 +8,21 @@ namespace qp::test {
 using Help = ProgramTest;
 
 TEST_F(Help, TheHelpLineFollowsTheModeAndItsSwitches) {
-  choose(f().mPencil);
-  f().MouseMove(0, 0, 0, 0);
-  EXPECT_TRUE(f().lHelp.Caption.get().startsWith("Hold left mouse button to draw - Select colors below"));
-  EXPECT_EQ(f().lHelpb.Caption.get(), f().lHelp.Caption.get());  // the shadow follows
-  f().ckVal.Value = 1;  // AutoDraw
-  move(100, 100, 0);    // the pointer over the canvas asks for the help line too
-  EXPECT_TRUE(f().lHelp.Caption.get().startsWith("Click paint area to set starting point"));
-  choose(f().mSngBox);
-  f().vVal3.Value = 2;
-  f().MouseMove(0, 0, 0, 0);
-  EXPECT_TRUE(f().lHelp.Caption.get().startsWith("Hold left mouse button and drag to set size of circle"));
-  choose(f().mCrzyPen);
-  f().MouseMove(0, 0, 0, 0);
-  EXPECT_TRUE(f().lHelp.Caption.get().startsWith("riGhT-CLiCk tO uNdO"));
+  // The mode chosen, a switch set after, whether the pointer passes over the canvas (else the
+  // window), the start of the line.
+  const struct { Menu* item; std::function<void()> set; bool canvas; const char* line; } cases[] = {
+      {&f().mPencil, {}, false, "Hold left mouse button to draw - Select colors below"},
+      {&f().mPencil, [this] { f().ckVal.Value = 1; }, true, "Click paint area to set starting point"},  // AutoDraw
+      {&f().mSngBox, [this] { f().vVal3.Value = 2; }, false, "Hold left mouse button and drag to set size of circle"},
+      {&f().mCrzyPen, {}, false, "riGhT-CLiCk tO uNdO"}};
+  for (const auto& c : cases) {
+    choose(*c.item);
+    if (c.set) c.set();
+    if (c.canvas) move(100, 100, 0);
+    else f().MouseMove(0, 0, 0, 0);
+    EXPECT_TRUE(f().lHelp.Caption.get().startsWith(c.line)) << f().lHelp.Caption.get().toStdString();
+    EXPECT_EQ(f().lHelpb.Caption.get(), f().lHelp.Caption.get());  // the shadow follows
+  }
   // A mode without a line of its own keeps the text it had.
   choose(f().mFF);
   f().lHelp.Caption = "kept";
@@ -41,7 +42,7 @@ TEST_F(Help, TheHelpLinesToolTipSuggestsByMode) {
   EXPECT_TRUE(f().lHelpb.ToolTipText.get().startsWith("Clicking the screen while holding ARROW keys"));
 }
 
-TEST_F(Help, KeyListAndHelpPanel) {
+TEST_F(Help, KeyListHelpPanelAndToolzMenu) {
   choose(f().mKeys);
   ASSERT_FALSE(headless.msgbox.shown().empty());
   const auto& box = headless.msgbox.shown().back();
@@ -54,6 +55,9 @@ TEST_F(Help, KeyListAndHelpPanel) {
   EXPECT_FALSE(f().txHelp.Text.get().isEmpty());
   f().cXhelp.raiseClick();
   EXPECT_FALSE(f().fHelp.Visible);
+  EXPECT_EQ(f().lastPopup(), nullptr);  // a right click on the panel pops the Toolz menu up
+  f().fVal.raiseMouseUp(vbRightButton, 0, 100, 100);
+  EXPECT_EQ(f().lastPopup(), &f().mToolz);
 }
 
 TEST_F(Help, AFilmLineStandsInOneModeOnlyAndGoesAtTheNextPass) {
@@ -67,12 +71,6 @@ TEST_F(Help, AFilmLineStandsInOneModeOnlyAndGoesAtTheNextPass) {
   choose(f().mCrazyLn);
   f().lPenVal.MouseMove(0, 0, 0, 0);  // a control with a tip of its own keeps it in parentheses
   EXPECT_TRUE(f().lPenVal.ToolTipText.get().endsWith("(" + f().lPenVal.Caption.get() + ")"));
-}
-
-TEST_F(Help, RightClickOnThePanelPopsUpTheToolzMenu) {
-  EXPECT_EQ(f().lastPopup(), nullptr);
-  f().fVal.raiseMouseUp(vbRightButton, 0, 100, 100);
-  EXPECT_EQ(f().lastPopup(), &f().mToolz);
 }
 
 }  // namespace qp::test

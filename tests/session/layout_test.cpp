@@ -1,5 +1,6 @@
-// The window's layout commands: canvas sizes, lock, custom size, pointer shapes, guides.
+// The window's layout commands: canvas sizes, lock, custom size, view bars, pointer shapes, guides.
 #include "core/Grid.h"
+#include "core/Layout.h"
 #include "support/ProgramFixture.h"
 
 namespace qp::test {
@@ -13,17 +14,16 @@ class Layout : public ProgramTest {
 };
 
 TEST_F(Layout, SizeItemsSetWindowFrameAndCanvas) {
-  choose(f().m64x48);
-  EXPECT_EQ(f().Width.get(), 11360);
-  EXPECT_EQ(f().Height.get(), 8985);
-  EXPECT_EQ(f().PicPaint.Width.get(), f().fMax.Width.get());
-  EXPECT_EQ(f().fMax.Width.get(), 11360 - 1440 - 320);
-  EXPECT_EQ(f().PicPaint.bitmap().width(), (11360 - 1760) / 15);
-  choose(f().m8x6);
-  EXPECT_EQ(f().Width.get(), 13760);
-  EXPECT_EQ(f().Height.get(), 10785);
-  EXPECT_TRUE(f().Caption.get().endsWith(QString("%1 x %2").arg(f().PicPaint.bitmap().width())
-                                             .arg(f().PicPaint.bitmap().height())));
+  for (const auto& [item, w, h] : {std::tuple{&f().m64x48, 11360, 8985}, std::tuple{&f().m8x6, 13760, 10785}}) {
+    choose(*item);
+    EXPECT_EQ(f().Width.get(), w);
+    EXPECT_EQ(f().Height.get(), h);
+    EXPECT_EQ(f().fMax.Width.get(), w - 1440 - 320);
+    EXPECT_EQ(f().PicPaint.Width.get(), f().fMax.Width.get());
+    EXPECT_EQ(f().PicPaint.bitmap().width(), (w - 1760) / 15);
+    EXPECT_TRUE(f().Caption.get().endsWith(
+        QString("%1 x %2").arg(f().PicPaint.bitmap().width()).arg(f().PicPaint.bitmap().height())));
+  }
 }
 
 TEST_F(Layout, LockKeepsTheCanvasWhenTheWindowChangesAndASizeItemUnlocks) {
@@ -31,20 +31,26 @@ TEST_F(Layout, LockKeepsTheCanvasWhenTheWindowChangesAndASizeItemUnlocks) {
   EXPECT_TRUE(f().mLock.Checked);
   EXPECT_EQ(f().mLock.Caption.get(), "Unlock Canvas");
   EXPECT_EQ(f().CanvasLocked, -1);
-  const Single w = f().PicPaint.Width;
+  const Single w = f().PicPaint.Width, frame = f().fMax.Width;
   f().Width = f().Width + 3000;
   EXPECT_EQ(f().PicPaint.Width.get(), w);
+  EXPECT_EQ(f().fMax.Width.get(), frame);
   choose(f().m768);
   EXPECT_FALSE(f().mLock.Checked);
   EXPECT_EQ(f().mLock.Caption.get(), "Lock Canvas");
   EXPECT_EQ(f().Width.get(), 13280);
 }
 
-TEST_F(Layout, CustomSizeLargerThanTheFrameBringsTheViewBarsAndTheyScroll) {
+TEST_F(Layout, ALargerPictureBringsTheViewBarsAndTheyScroll) {
+  EXPECT_FALSE(f().vWidth.Visible);
+  m().CurrentFile = "big.bmp";  // a titled picture keeps its own size
+  f().PicPaint.Width = f().fMax.Width + 1500;
+  Form_Resize(s());
+  EXPECT_TRUE(f().vWidth.Visible);
+  EXPECT_FALSE(f().vHigh.Visible);
   choose(f().mCustm);
   EXPECT_TRUE(f().fCust.Visible);
   EXPECT_EQ(f().PicPaint.MousePointer.get(), 1);
-  m().CurrentFile = "big.bmp";  // a titled picture keeps its size through the resize
   f().hCustm.Value = 24000;
   f().vCustm.Value = 9000;
   f().cCustm.raiseClick();
@@ -56,24 +62,14 @@ TEST_F(Layout, CustomSizeLargerThanTheFrameBringsTheViewBarsAndTheyScroll) {
   f().vWidth.Value = 3000;
   EXPECT_EQ(f().PicPaint.Left.get(), -3000);
   EXPECT_EQ(f().pPix.Left.get(), -3000);
-  // Reset forgets the file, and the canvas goes back to its frame.
+  // Without a file the canvas goes back to its frame at the next resize.
   m().CurrentFile = "";
   f().Width = f().Width + 15;
   EXPECT_EQ(f().PicPaint.Width.get(), f().fMax.Width.get());
   EXPECT_FALSE(f().vWidth.Visible);
 }
 
-TEST_F(Layout, ArrowPointerLastsUntilTheNextModeChange) {
-  choose(f().mArrow);
-  EXPECT_EQ(f().PicPaint.MousePointer.get(), 1);
-  EXPECT_TRUE(f().mArrow.Checked);
-  EXPECT_FALSE(f().mCross.Checked);
-  choose(f().mAir);
-  EXPECT_EQ(f().PicPaint.MousePointer.get(), 2);
-  EXPECT_EQ(f().PointerShape, 2);
-}
-
-TEST_F(Layout, GridTogglesTheGuidesOfTheSurfaceInUseAndTakesTheColours) {
+TEST_F(Layout, GridAndPointerItems) {
   choose(f().mCoords);
   EXPECT_TRUE(f().lnX.Visible);
   EXPECT_TRUE(f().lLnY.Visible);
@@ -89,6 +85,14 @@ TEST_F(Layout, GridTogglesTheGuidesOfTheSurfaceInUseAndTakesTheColours) {
   SetGridColors(s());
   EXPECT_EQ(f().lnX.BorderColor.get(), 0x0000FF);
   EXPECT_EQ(f().lLnY.ForeColor.get(), 0x00FF00);
+  // The arrow pointer lasts until the next mode change.
+  choose(f().mArrow);
+  EXPECT_EQ(f().PicPaint.MousePointer.get(), 1);
+  EXPECT_TRUE(f().mArrow.Checked);
+  EXPECT_FALSE(f().mCross.Checked);
+  choose(f().mAir);
+  EXPECT_EQ(f().PicPaint.MousePointer.get(), 2);
+  EXPECT_EQ(f().PointerShape, 2);
 }
 
 }  // namespace qp::test

@@ -8,16 +8,12 @@ using Modes = ProgramTest;
 
 TEST_F(Modes, SelectionItemsKeepTheDisplayOfTheModeBefore) {
   choose(f().mAir);
-  choose(f().mSelClr);
-  EXPECT_EQ(m().PaintMode, 18);
-  EXPECT_EQ(f().lMode.Caption.get(), "AirBrush");
-  choose(f().mSelRect);
-  EXPECT_EQ(m().PaintMode, 19);
-  choose(f().mSelCpy);
-  EXPECT_EQ(m().PaintMode, 19);
-  EXPECT_EQ(f().lMode.Caption.get(), "AirBrush");
+  for (const auto& [item, mode] : {std::pair{&f().mSelClr, 18}, std::pair{&f().mSelRect, 19}, std::pair{&f().mSelCpy, 19}}) {
+    choose(*item);
+    EXPECT_EQ(m().PaintMode, mode);
+    EXPECT_EQ(f().lMode.Caption.get(), "AirBrush");
+  }
   EXPECT_FALSE(f().pPix.Visible);
-
   // Transparency selection sets its flag and the smallest panel, without re-arming the panel.
   f().lStats.Caption = "kept";
   choose(f().mTrans);
@@ -47,6 +43,19 @@ TEST_F(Modes, ModeChangeResetsThePanelBeforeTheModesOwnSettings) {
   EXPECT_TRUE(f().vMax.Visible);
   EXPECT_TRUE(f().fPencil.Visible);
   EXPECT_FALSE(f().ckVal2.Visible);
+  // A ticked box does not carry over into a mode that has no use for it.
+  f().ckVal.Value = 1;
+  f().ckVal2.Value = 1;
+  choose(f().mFF);
+  EXPECT_FALSE(f().ckVal.Visible);
+  EXPECT_EQ(f().ckVal.Value.get(), 0);
+  EXPECT_EQ(f().ckVal2.Value.get(), 0);
+  // Mirrors N More starts with both axes and the box clear.
+  f().ckVal.Value = 1;
+  choose(f().mGpen);
+  EXPECT_EQ(f().ckVal.Value.get(), 0);
+  EXPECT_EQ(f().ckVert.Value.get(), 1);
+  EXPECT_EQ(f().ckHoriz.Value.get(), 1);
 }
 
 TEST_F(Modes, ChoosingTheSameModeAgainBakesTheCanvasAndResetsTheArrowPointer) {
@@ -56,58 +65,48 @@ TEST_F(Modes, ChoosingTheSameModeAgainBakesTheCanvasAndResetsTheArrowPointer) {
   f().PicPaint.Line(0, 0, 1500, 0, 0x0000FF);
   choose(f().mPencil);
   EXPECT_EQ(f().PointerShape, 2);
-  // The drawing is now the snapshot: a quick undo keeps it.
-  release(30, 30, vbRightButton);
+  release(30, 30, vbRightButton);  // the drawing is now the snapshot: a quick undo keeps it
   EXPECT_EQ(pixel(50, 0), 0x0000FF);
 }
 
 TEST_F(Modes, PanelHeightFollowsTheModeAndSomeModesKeepTheHeightBefore) {
-  choose(f().mSngBox);
-  EXPECT_EQ(f().PanelHeight, 3000);
-  EXPECT_EQ(f().lHelp.Top.get(), 3015);
-  choose(f().mCircFx);  // never sizes the panel itself
-  EXPECT_EQ(f().PanelHeight, 3000);
-  // ... but the reset of every mode change puts the help line back at its place.
-  EXPECT_EQ(f().lHelp.Top.get(), 3615);
-  choose(f().mSpir2);
-  EXPECT_EQ(f().PanelHeight, 3600);
-  choose(f().mShadTx);
-  EXPECT_EQ(f().PanelHeight, 4000);
-  choose(f().mBubble);
-  EXPECT_EQ(f().PanelHeight, 2520);
-  choose(f().mPencil);
-  EXPECT_EQ(f().PanelHeight, 2040);
+  // The item chosen, the panel height and where the help line then stands.
+  const struct { Menu* item; int height, helpTop; } steps[] = {
+      {&f().mSngBox, 3000, 3015},
+      {&f().mCircFx, 3000, 3615},  // never sizes the panel; the reset puts the help line back
+      {&f().mSpir2, 3600, -1}, {&f().mShadTx, 4000, -1}, {&f().mBubble, 2520, -1}, {&f().mPencil, 2040, -1}};
+  for (const auto& st : steps) {
+    choose(*st.item);
+    EXPECT_EQ(f().PanelHeight, st.height) << st.item->Name().toStdString();
+    if (st.helpTop >= 0) {
+      EXPECT_EQ(f().lHelp.Top.get(), st.helpTop) << st.item->Name().toStdString();
+    }
+  }
 }
 
 TEST_F(Modes, CrazyPencilMapsItsBarToMixingModesAndSkipsEleven) {
   choose(f().mCrzyPen);
   EXPECT_EQ(f().PicPaint.DrawMode.get(), 15);  // value 13 at entry
   EXPECT_EQ(f().lVal1.Caption.get(), "DrawMode : 13");
-  const int expected[] = {2, 3, 4, 5, 6, 7, 8, 9, 10, 12, 13};
-  for (int v = 0; v <= 10; ++v) {
+  // The bar's value, the drawing mode, the value the label tells.
+  const int expected[][3] = {{0, 2, 0},   {1, 3, 1},   {2, 4, 2},   {3, 5, 3},   {4, 6, 4},   {5, 7, 5},  {6, 8, 6},
+                             {7, 9, 7},   {8, 10, 8},  {9, 12, 9},  {10, 13, 10}, {11, 13, 10}, {12, 14, 12}};
+  for (const auto& [v, mode, told] : expected) {
     f().vVal1.Value = v;
     ApplyCrazyDrawMode(s());
-    EXPECT_EQ(f().PicPaint.DrawMode.get(), expected[v]) << v;
-    EXPECT_EQ(f().lVal1.Caption.get(), QString("DrawMode : %1").arg(v));
+    EXPECT_EQ(f().PicPaint.DrawMode.get(), mode) << v;
+    if (v != 12) {
+      EXPECT_EQ(f().lVal1.Caption.get(), QString("DrawMode : %1").arg(told)) << v;
+    }
   }
-  f().vVal1.Value = 11;
-  ApplyCrazyDrawMode(s());
-  EXPECT_EQ(f().PicPaint.DrawMode.get(), 13);
-  EXPECT_EQ(f().lVal1.Caption.get(), "DrawMode : 10");
-  f().vVal1.Value = 12;
-  ApplyCrazyDrawMode(s());
-  EXPECT_EQ(f().PicPaint.DrawMode.get(), 14);
 }
 
-TEST_F(Modes, LeavingAPixelModeMovesTheCanvasBackFromThePixelSurface) {
+TEST_F(Modes, LeavingAModeTakesItsOwnSurfacesAway) {
   ASSERT_TRUE(f().pPix.Visible);  // Freehand Spiralz works in pixels
   f().pPix.Line(10, 10, 20, 10, 0xFF00FF);
   choose(f().mPencil);
   EXPECT_FALSE(f().pPix.Visible);
-  EXPECT_EQ(pixel(15, 10), 0xFF00FF);
-}
-
-TEST_F(Modes, ShadowTextOpensItsSampleFrameAndTheNextModeClosesIt) {
+  EXPECT_EQ(pixel(15, 10), 0xFF00FF);  // the pixel drawing moves back onto the canvas
   choose(f().mShadTx);
   EXPECT_TRUE(f().fShad.Visible);
   EXPECT_TRUE(f().fBow.Visible);
@@ -124,10 +123,8 @@ TEST_F(Modes, AnOffsetTooWideForTheNextModesBarStillGivesThatModeItsPanel) {
   f().vVal1.Value = 1200;
   ASSERT_EQ(m().StepSize, 1200);
   choose(f().mShadow);  // its offset bar ends at 960
-  EXPECT_TRUE(f().ckVal.Visible);
-  EXPECT_TRUE(f().ckVal2.Visible);
-  EXPECT_TRUE(f().cSwap.Visible);
-  EXPECT_TRUE(f().fBow.Visible);
+  for (const Control* c : std::initializer_list<const Control*>{&f().ckVal, &f().ckVal2, &f().cSwap, &f().fBow})
+    EXPECT_TRUE(c->Visible) << c->key().toStdString();
   EXPECT_EQ(f().lStats.Caption.get(), "Proceed...");
   EXPECT_EQ(f().vVal1.Value.get(), 960);
   EXPECT_EQ(m().StepSize, 960);

@@ -18,9 +18,10 @@ class Pipeline : public ProgramTest {
   void SetUp() override {
     ProgramTest::SetUp();
     choose(f().mSingle);  // a mode whose hooks we watch below
-    program->tools.set(1, strokeHooks([this](Session&, int, Single x, Single y) { calls.push_back({'P', x, y}); },
-                           [this](Session&, int, Single x, Single y) { calls.push_back({'M', x, y}); },
-                           [this](Session&, int, Single x, Single y) { calls.push_back({'R', x, y}); }));
+    program->tools.set(1, strokeHooks(record('P'), record('M'), record('R')));
+  }
+  StrokeHook record(char what) {
+    return [this, what](Session&, int, Single x, Single y) { calls.push_back({what, x, y}); };
   }
   struct Call { char what; Single x, y; };
   std::vector<Call> calls;
@@ -45,19 +46,14 @@ TEST_F(Pipeline, PressRecordsWhereAndSnapshotsBeforeTheTool) {
   EXPECT_EQ(pixel(20, 10), 0x000000);
 }
 
-TEST_F(Pipeline, MoveWithoutTheLeftButtonOnlyReports) {
-  move(300, 450, 0);
-  move(300, 450, vbRightButton);
-  move(300, 450, vbLeftButton | vbRightButton);
+TEST_F(Pipeline, MoveWithoutTheLeftButtonOnlyReportsAndGuidesFollowThePointer) {
+  for (int button : {0, int(vbRightButton), vbLeftButton | vbRightButton}) move(300, 450, button);
   EXPECT_TRUE(calls.empty());
   EXPECT_EQ(f().lX.Caption.get(), "X : 20");
   EXPECT_EQ(f().lY.Caption.get(), "Y : 30");
   move(315, 465);
   ASSERT_EQ(calls.size(), 1u);
   EXPECT_EQ(calls[0].what, 'M');
-}
-
-TEST_F(Pipeline, GuidesFollowThePointerWhileShown) {
   f().lnX.Visible = true;
   move(900, 600, 0);
   EXPECT_EQ(f().lnX.X1.get(), 900);
@@ -85,19 +81,16 @@ TEST_F(Pipeline, ReleaseRunsTheToolThenTheClosingSteps) {
   EXPECT_FLOAT_EQ(f().PicPaint.CurrentX, 207.5f);
 }
 
-TEST_F(Pipeline, AFailingReleaseStillClosesTheStroke) {
-  program->tools.set(1, strokeHooks({}, {}, [](Session&, int, Single, Single) { raiseError(RuntimeError::Overflow); }));
-  f().tGrad.Enabled = true;
-  release(150, 150);
-  EXPECT_FALSE(f().tGrad.Enabled);
-}
-
-TEST_F(Pipeline, AFailingPressEndsOnlyThatPress) {
-  program->tools.set(1, strokeHooks([](Session&, int, Single, Single) { raiseError(RuntimeError::Overflow); }, {}, {}));
+TEST_F(Pipeline, AFailingToolEndsOnlyItsOwnStep) {
+  const StrokeHook fails = [](Session&, int, Single, Single) { raiseError(RuntimeError::Overflow); };
+  program->tools.set(1, strokeHooks(fails, {}, fails));
   press(150, 150);
   EXPECT_EQ(f().DownButtonX, 10);  // the common steps before the tool ran
   press(300, 300);
   EXPECT_EQ(f().DownButtonX, 20);
+  f().tGrad.Enabled = true;
+  release(150, 150);
+  EXPECT_FALSE(f().tGrad.Enabled);  // the closing steps still ran
 }
 
 // A canvas scrolled far down or a wide screen lets the pointer leave the canvas by more twips than
@@ -128,26 +121,18 @@ TEST_F(Pipeline, AReleaseFarOffTheCanvasStillClosesTheStroke) {
   EXPECT_EQ(f().AutoDrawY, 750);
 }
 
-TEST_F(Pipeline, RightPressDoesNothingButItsFirstStep) {
+TEST_F(Pipeline, RightPressDoesNothingButItsFirstStepAndItsReleaseShowsThePointer) {
+  f().ckHide.Value = 1;
+  press(150, 150);
+  EXPECT_EQ(f().PicPaint.MousePointer.get(), 99);
   f().lTell.Caption = "Maximum";
+  f().lXb.ToolTipText = "";
   press(150, 150, vbRightButton);
-  EXPECT_TRUE(calls.empty());
+  EXPECT_EQ(calls.size(), 1u);
   EXPECT_EQ(f().lTell.Caption.get(), "");
   EXPECT_EQ(f().lXb.ToolTipText.get(), "");
-}
-
-TEST_F(Pipeline, RightClickUndoesOneLevelOnly) {
-  press(0, 0);
-  f().PicPaint.Line(0, 0, 600, 0, 0x0000FF);
-  release(0, 0);
-  press(0, 150);
-  f().PicPaint.Line(0, 150, 600, 150, 0x00FF00);
-  release(0, 150);
-  release(0, 0, vbRightButton);
-  EXPECT_EQ(pixel(20, 10), 0x000000);  // the last stroke is gone
-  EXPECT_EQ(pixel(20, 0), 0x0000FF);   // the one before stays
-  release(0, 0, vbRightButton);
-  EXPECT_EQ(pixel(20, 0), 0x0000FF);   // a second right click changes nothing
+  release(150, 150, vbRightButton);
+  EXPECT_EQ(f().PicPaint.MousePointer.get(), 2);
 }
 
 TEST_F(Pipeline, CtrlRightPicksTheColourAndSkipsTheClosingSteps) {
@@ -160,18 +145,9 @@ TEST_F(Pipeline, CtrlRightPicksTheColourAndSkipsTheClosingSteps) {
   EXPECT_EQ(f().lColor.BackColor.get(), 0x123456);
   EXPECT_EQ(f().shErSize.FillColor.get(), 0x123456);
   EXPECT_TRUE(f().tGrad.Enabled);
-  EXPECT_EQ(pixel(10, 20), 0x123456);  // the picture is left alone
-  // Off the canvas the pick gives -1, stored as it is.
-  release(-150, -150, vbRightButton);
+  EXPECT_EQ(pixel(10, 20), 0x123456);  // no undo: the picture is left alone
+  release(-150, -150, vbRightButton);  // off the canvas the pick gives -1, stored as it is
   EXPECT_EQ(m().ForeClr, -1);
-}
-
-TEST_F(Pipeline, HiddenPointerComesBackAtAnyRelease) {
-  f().ckHide.Value = 1;
-  press(150, 150);
-  EXPECT_EQ(f().PicPaint.MousePointer.get(), 99);
-  release(150, 150, vbRightButton);
-  EXPECT_EQ(f().PicPaint.MousePointer.get(), 2);
 }
 
 TEST_F(Pipeline, ReleaseAfterAModeChangeRunsTheNewModesRelease) {
@@ -193,17 +169,6 @@ TEST_F(Pipeline, IntervalBarRetunesThePaintTimersUnlessAutoDrawRuns) {
   f().tDraw.Enabled = true;
   f().vInt.Value = 90;
   EXPECT_EQ(f().tAir.Interval.get(), 75);
-}
-
-TEST_F(Pipeline, ColourStepFollowsTheColourMode) {
-  f().lForclr.BackColor = 0x0000FF;
-  f().vColmode.Value = 0;
-  ColourStep(s());
-  EXPECT_EQ(m().ForeClr, 0x0000FF);
-  f().vColmode.Value = 3;
-  f().tGrad.Enabled = false;
-  ColourStep(s());
-  EXPECT_TRUE(f().tGrad.Enabled);
 }
 
 }  // namespace qp::test

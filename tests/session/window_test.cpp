@@ -1,7 +1,8 @@
-// The main window on screen (offscreen): real menu choices and real pointer events reach the
-// program through the view exactly as a user's would.
+// The main window on screen (offscreen): real menu choices, pointer events and held keys reach the
+// program through the view exactly as a user's would, and a stroke step costs no canvas copy.
 #include <QAction>
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMouseEvent>
 
 #include "platform/qt/FormView.h"
@@ -14,24 +15,40 @@ class Window : public ProgramTest {
   void SetUp() override {
     ProgramTest::SetUp();
     view = std::make_unique<FormView>(f());
+    view->actionFor(&f().mPencil)->trigger();  // a menu item chosen on screen
+    f().vColmode.Value = 0;                     // Standard: the fore colour, white
     view->sync();
+    pic = view->widgetFor(&f().PicPaint);
+    ASSERT_NE(pic, nullptr);
   }
   void TearDown() override { view.reset(); }
 
   void mouse(QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::MouseButtons held) {
-    QWidget* w = view->widgetFor(&f().PicPaint);
-    ASSERT_NE(w, nullptr);
-    QMouseEvent e(type, QPointF(at), w->mapToGlobal(QPointF(at)), button, held, Qt::NoModifier);
-    QApplication::sendEvent(w, &e);
+    QMouseEvent e(type, QPointF(at), pic->mapToGlobal(QPointF(at)), button, held, Qt::NoModifier);
+    QApplication::sendEvent(pic, &e);
+  }
+  // Holds the key for ms as Qt delivers it: a press, then after the repeat delay a release and a
+  // press marked as auto-repeat every 33 ms, then the real release. The clock runs meanwhile.
+  void hold(int key, int ms) {
+    auto send = [&](QEvent::Type type, bool repeat) {
+      QKeyEvent e(type, key, Qt::NoModifier, QString(), repeat);
+      QApplication::sendEvent(pic, &e);
+    };
+    send(QEvent::KeyPress, false);
+    headless.loop.advance(500);
+    for (int t = 500; t + 33 <= ms; t += 33) {
+      send(QEvent::KeyRelease, true);
+      send(QEvent::KeyPress, true);
+      headless.loop.advance(33);
+    }
+    send(QEvent::KeyRelease, false);
   }
   std::unique_ptr<FormView> view;
+  QWidget* pic = nullptr;
 };
 
 TEST_F(Window, APointerStrokeOnThePaintAreaRunsTheStroke) {
-  view->actionFor(&f().mPencil)->trigger();  // a menu item chosen on screen
   ASSERT_EQ(f().lMode.Caption.get(), "Freehand Pencil");
-  f().vColmode.Value = 0;  // Standard: the fore colour, white
-  view->sync();
   mouse(QEvent::MouseButtonPress, {20, 30}, Qt::LeftButton, Qt::LeftButton);
   mouse(QEvent::MouseMove, {60, 30}, Qt::NoButton, Qt::LeftButton);
   mouse(QEvent::MouseButtonRelease, {60, 30}, Qt::LeftButton, Qt::NoButton);
@@ -43,6 +60,45 @@ TEST_F(Window, APointerStrokeOnThePaintAreaRunsTheStroke) {
   mouse(QEvent::MouseButtonPress, {5, 5}, Qt::RightButton, Qt::RightButton);
   mouse(QEvent::MouseButtonRelease, {5, 5}, Qt::RightButton, Qt::NoButton);
   EXPECT_EQ(pixel(40, 30), 0x000000);
+}
+
+// A held key: Qt's auto-repeat reaches the handlers as repeated key downs and one key up at the
+// real release, so a width timer keeps running while the key is held.
+TEST_F(Window, HoldingAnArrowKeyKeepsTheWidthTimerRunning) {
+  f().Show();
+  view->sync();
+  QApplication::setActiveWindow(&view->window());
+  pic->setFocus();
+  if (QApplication::focusWidget() != pic) GTEST_SKIP() << "this platform gives no keyboard focus";
+  int downs = 0, ups = 0;
+  auto down = f().PicPaint.KeyDown;
+  auto up = f().PicPaint.KeyUp;
+  f().PicPaint.KeyDown = [&](int& code, int shift) { ++downs; if (down) down(code, shift); };
+  f().PicPaint.KeyUp = [&](int& code, int shift) { ++ups; if (up) up(code, shift); };
+  hold(Qt::Key_Up, 2000);
+  EXPECT_EQ(ups, 1);
+  EXPECT_GT(downs, 40);
+  // 120 ms a step for two seconds: about seventeen, where a timer stopped at every repeat gave six.
+  EXPECT_GE(m().DrawWidth, 15);
+  EXPECT_LE(m().DrawWidth, 18);
+  EXPECT_FALSE(f().tPenUp.Enabled);  // the real release stops it
+}
+
+// A stroke step draws in place: no copy of the canvas, and only the segment's rectangle is marked
+// for the screen to repaint.
+TEST_F(Window, AMoveDrawsInPlaceAndMarksOnlyItsSegment) {
+  f().vPencil.Value = 8;
+  press(1500, 1500);  // the press bakes the canvas: the one copy of the stroke
+  const uchar* bits = f().PicPaint.bitmap().constBits();
+  f().PicPaint.takeDirty();
+  move(3000, 1500);
+  EXPECT_EQ(f().PicPaint.bitmap().constBits(), bits);
+  const QRect dirty = f().PicPaint.takeDirty();
+  EXPECT_TRUE(QRect(90, 90, 120, 20).contains(dirty)) << dirty.x() << "," << dirty.y() << " " << dirty.width();
+  EXPECT_GE(dirty.width(), 100);
+  move(3000, 3000);
+  release(3000, 3000);
+  EXPECT_EQ(f().PicPaint.bitmap().constBits(), bits);
 }
 
 }  // namespace qp::test

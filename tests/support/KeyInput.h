@@ -21,3 +21,13 @@ inline void canvasKeyUp(frmCanvas& f, int code) {
 }
 
 }  // namespace qp::test
+
+namespace qp::test {
+
+// A key pressed and let go on the window.
+inline void windowKey(frmCanvas& f, int code) {
+  windowKeyDown(f, code);
+  windowKeyUp(f, code);
+}
+
+}  // namespace qp::test

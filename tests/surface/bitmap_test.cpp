@@ -1,11 +1,18 @@
-// The persistent bitmap: its size from Width/Height, Picture and Image by value, Cls, BackColor,
-// the scale modes, refusals, and what the view learns (dirty rectangle, refresh).
+// The persistent bitmap: its size from Width/Height and AutoSize, Picture and Image by value, Cls,
+// BackColor, the scale modes, refusals, and what the view learns (dirty rectangle, refresh).
 #include "SurfaceFixture.h"
+#include "support/ErrorCode.h"
 
 namespace qp::test {
 namespace {
 
 using BitmapTest = SurfaceTest;
+
+QImage filled(int w, int h, QRgb c) {
+  QImage pic(w, h, QImage::Format_RGB32);
+  pic.fill(c);
+  return pic;
+}
 
 TEST_F(BitmapTest, SizeFollowsTwipsOrParentPixels) {
   PictureBox& canvas = box(0, 0, 1);
@@ -15,7 +22,6 @@ TEST_F(BitmapTest, SizeFollowsTwipsOrParentPixels) {
   EXPECT_EQ(canvas.pixelHeight(), 553);
   EXPECT_FLOAT_EQ(canvas.ScaleWidth, 11295);  // twips: the interior is the outer size
   EXPECT_FLOAT_EQ(canvas.ScaleHeight, 8295);
-
   // A child of a picture box in pixels takes its size in pixels.
   PictureBox& parent = box(100, 100, 3);
   PictureBox child(&form, &parent, "child");
@@ -25,6 +31,35 @@ TEST_F(BitmapTest, SizeFollowsTwipsOrParentPixels) {
   EXPECT_EQ(child.pixelWidth(), 33);
   EXPECT_FLOAT_EQ(child.ScaleWidth, 33);
   EXPECT_FLOAT_EQ(child.ScaleHeight, 20);
+}
+
+TEST_F(BitmapTest, AutoSizeTakesThePicturesSizeAndAnEmptyPictureKeepsIt) {
+  PictureBox& b = box(10, 10, 1, 0x0000FF);
+  b.AutoSize = true;
+  const QImage green = filled(30, 20, qRgb(0, 255, 0));
+  // Each picture in turn: the size the box takes, and its last pixel.
+  const struct { QImage pic; int w, h; Colour corner; } cases[] = {
+      {green, 30, 20, 0x00FF00},
+      {QImage(), 30, 20, 0x0000FF},  // the back colour shows
+      {green.convertToFormat(QImage::Format_Indexed8).copy(0, 0, 5, 4), 5, 4, 0x00FF00},
+      {green.copy(0, 0, 5, 9), 5, 9, 0x00FF00},  // as wide as the box, but taller
+  };
+  for (const auto& c : cases) {
+    b.Picture = c.pic;
+    EXPECT_EQ(b.pixelWidth(), c.w);
+    EXPECT_EQ(b.pixelHeight(), c.h);
+    EXPECT_FLOAT_EQ(b.ScaleWidth, c.w * 15.0f);  // the scale follows the new size
+    EXPECT_EQ(px(b, c.w - 1, c.h - 1), c.corner);
+  }
+  EXPECT_EQ(b.Width.get(), 75);
+  // Without AutoSize the box keeps its size; an oversized picture is refused before any change.
+  PictureBox& plain = box(10, 10, 3);
+  plain.Picture = green;
+  EXPECT_EQ(plain.pixelWidth(), 10);
+  b.Picture = QImage();
+  EXPECT_EQ(errorCode([&] { b.Picture = QImage(20000, 1, QImage::Format_RGB32); }), RuntimeError::OutOfMemory);
+  EXPECT_EQ(b.pixelWidth(), 5);
+  EXPECT_TRUE(b.Picture.isNull());
 }
 
 TEST_F(BitmapTest, GrowingKeepsDrawingShrinkingLosesTheCutPart) {
@@ -47,7 +82,6 @@ TEST_F(BitmapTest, ImageCopiesAreByValueAndCostOneDetach) {
   // Sharing: neither the copy nor the laying on y copied pixels.
   EXPECT_EQ(y.bitmap().constBits(), x.bitmap().constBits());
   EXPECT_EQ(px(y, 5, 5), 0x00FF00);
-
   x.Picture = x.Image;  // baking costs nothing either
   const QImage kept = x.Image;
   const uchar* before = x.bitmap().constBits();
@@ -57,7 +91,6 @@ TEST_F(BitmapTest, ImageCopiesAreByValueAndCostOneDetach) {
   x.Line(0, 0, 63, 63, 0xFFFFFF);
   x.Circle(30, 30, 10, 0xFFFFFF);
   EXPECT_EQ(x.bitmap().constBits(), after);  // ...and never again
-
   // Later drawing on x reaches neither the copy nor y, and Cls brings x's Picture back.
   EXPECT_EQ(kept.pixel(6, 6) & 0xFFFFFF, 0u);
   EXPECT_EQ(px(y, 6, 6), 0x000000);
@@ -67,14 +100,34 @@ TEST_F(BitmapTest, ImageCopiesAreByValueAndCostOneDetach) {
   EXPECT_EQ(x.bitmap().constBits(), x.Picture.get().constBits());
 }
 
+// Baking again and again (every undo snapshot does it) keeps reusing the same two buffers, and a
+// picture assigned to itself stays what it was.
+TEST_F(BitmapTest, RepeatedBakingReusesBuffersAndKeepsPictures) {
+  PictureBox& b = box(32, 32, 3, 0x000000);
+  std::vector<const uchar*> buffers;
+  const Colour colours[] = {0x0000FF, 0x00FF00, 0xFF0000, 0xFFFFFF};
+  for (int i = 0; i < 4; ++i) {
+    b.Picture = b.Image;
+    b.PSet(i + 1, i + 1, colours[i]);
+    buffers.push_back(b.bitmap().constBits());
+  }
+  EXPECT_EQ(buffers[2], buffers[0]);
+  EXPECT_EQ(buffers[3], buffers[1]);
+  // Each baked picture holds everything drawn before it, and nothing after.
+  EXPECT_EQ(b.Picture.get().pixel(3, 3) & 0xFFFFFF, 0x0000FFu);
+  EXPECT_EQ(b.Picture.get().pixel(4, 4) & 0xFFFFFF, 0u);
+  EXPECT_EQ(px(b, 1, 1), 0x0000FF);
+  b.Picture = b.Picture;
+  b.Cls();
+  EXPECT_EQ(px(b, 3, 3), 0xFF0000);
+  EXPECT_EQ(px(b, 4, 4), 0x000000);
+}
+
 TEST_F(BitmapTest, ClsAndBackColorLayThePictureOverTheBackground) {
   PictureBox& b = box(30, 20, 3, 0x112233);
-  QImage small(10, 10, QImage::Format_RGB32);
-  small.fill(0xFF0000FF);  // blue as 0xAARRGGBB
-  b.Picture = small;
+  b.Picture = filled(10, 10, 0xFF0000FF);  // blue as 0xAARRGGBB
   EXPECT_EQ(px(b, 5, 5), 0xFF0000);
   EXPECT_EQ(px(b, 20, 5), 0x112233);
-
   b.CurrentX = 7;
   b.CurrentY = 9;
   b.PSet(25, 15, 0xFFFFFF);
@@ -82,36 +135,38 @@ TEST_F(BitmapTest, ClsAndBackColorLayThePictureOverTheBackground) {
   EXPECT_EQ(px(b, 25, 15), 0x112233);
   EXPECT_EQ(b.CurrentX, 0);
   EXPECT_EQ(b.CurrentY, 0);
-
   b.PSet(25, 15, 0xFFFFFF);
   b.BackColor = 0x00FF00;  // clears what was drawn, the picture staying on top
   EXPECT_EQ(px(b, 25, 15), 0x00FF00);
   EXPECT_EQ(px(b, 2, 2), 0xFF0000);
-
   b.Picture = QImage();  // an emptied picture leaves only the back colour
   EXPECT_EQ(px(b, 2, 2), 0x00FF00);
 }
 
 TEST_F(BitmapTest, ScaleModesAndUserScale) {
   PictureBox& b = box(200, 100, 1);
-  EXPECT_DOUBLE_EQ(b.toPixelX(150), 10);
   b.PSet(150, 300, 0xFFFFFF);
   EXPECT_EQ(px(b, 10, 20), 0xFFFFFF);
-
   b.ScaleWidth = 2;  // a user scale from -1 to 1 across
   b.ScaleLeft = -1;
   b.ScaleHeight = 1;
   EXPECT_EQ(b.ScaleMode, 0);
   b.PSet(0, 0.5f, 0x00FFFF);
   EXPECT_EQ(px(b, 100, 50), 0x00FFFF);
-
-  // Resizing keeps a user scale: the units stretch with the bitmap.
-  b.Width = 400 * 15;
+  b.Width = 400 * 15;  // resizing keeps a user scale: the units stretch with the bitmap
   EXPECT_FLOAT_EQ(b.ScaleWidth, 2);
   EXPECT_DOUBLE_EQ(b.toPixelX(0), 200);
-
   b.ScaleMode = 3;
   EXPECT_FLOAT_EQ(b.ScaleLeft, 0);
+  for (Prop<Single>* origin : {&b.ScaleLeft, &b.ScaleTop}) {
+    *origin = -10;  // a moved origin alone makes a user scale too
+    EXPECT_EQ(b.ScaleMode, 0);
+    b.ScaleMode = 3;
+  }
+  b.ScaleTop = -10;
+  b.PSet(0, 0, 0x0000FF);
+  EXPECT_EQ(px(b, 0, 10), 0x0000FF);
+  b.ScaleMode = 3;
   EXPECT_FLOAT_EQ(b.ScaleWidth, 400);
   b.ScaleMode = 1;
   EXPECT_FLOAT_EQ(b.ScaleWidth, 6000);
@@ -119,32 +174,30 @@ TEST_F(BitmapTest, ScaleModesAndUserScale) {
   EXPECT_FLOAT_EQ(b.ScaleHeight, 750);
 }
 
-TEST_F(BitmapTest, RefusalsRaiseInsteadOfMisbehaving) {
+TEST_F(BitmapTest, RefusalsRaiseAndChangeNothing) {
   PictureBox& empty = box(0, 0, 3);
-  auto code = [](auto&& f) {
-    try {
-      f();
-    } catch (const RuntimeError& e) {
-      return e.code();
-    }
-    return 0;
-  };
-  EXPECT_EQ(code([&] { empty.Line(0, 0, 5, 5); }), RuntimeError::InvalidCall);
-  EXPECT_EQ(code([&] { empty.PSet(0, 0); }), RuntimeError::InvalidCall);
-  EXPECT_EQ(code([&] { empty.Circle(1, 1, 1); }), RuntimeError::InvalidCall);
-  EXPECT_EQ(code([&] { empty.Print("x"); }), RuntimeError::InvalidCall);
-  EXPECT_EQ(empty.Point(0, 0), -1);
-  EXPECT_NO_THROW(empty.Cls());
-
   PictureBox& b = box(10, 10, 3);
-  EXPECT_EQ(code([&] { b.Width = 20000 * 15; }), RuntimeError::OutOfMemory);
-  EXPECT_EQ(b.pixelWidth(), 10);  // unchanged by the refusal
-  EXPECT_EQ(code([&] { b.Height = -1; }), RuntimeError::InvalidPropertyValue);
-  EXPECT_EQ(code([&] { b.DrawWidth = 0; }), RuntimeError::InvalidPropertyValue);
-  EXPECT_EQ(code([&] { b.DrawMode = 17; }), RuntimeError::InvalidPropertyValue);
-  EXPECT_EQ(code([&] { b.ScaleWidth = 0; }), RuntimeError::InvalidPropertyValue);
-  EXPECT_EQ(code([&] { b.Line(0, 0, std::nanf(""), 3); }), RuntimeError::Overflow);
-  EXPECT_EQ(code([&] { b.PaintPicture(QImage(), 0, 0); }), RuntimeError::InvalidPicture);
+  const struct { std::function<void()> call; int code; } cases[] = {
+      {[&] { empty.Line(0, 0, 5, 5); }, RuntimeError::InvalidCall},
+      {[&] { empty.PSet(0, 0); }, RuntimeError::InvalidCall},
+      {[&] { empty.Circle(1, 1, 1); }, RuntimeError::InvalidCall},
+      {[&] { empty.Print("x"); }, RuntimeError::InvalidCall},
+      {[&] { empty.Cls(); }, 0},
+      {[&] { b.Width = 20000 * 15; }, RuntimeError::OutOfMemory},
+      {[&] { b.Height = -1; }, RuntimeError::InvalidPropertyValue},
+      {[&] { b.DrawWidth = 0; }, RuntimeError::InvalidPropertyValue},
+      {[&] { b.DrawMode = 17; }, RuntimeError::InvalidPropertyValue},
+      {[&] { b.ScaleWidth = 0; }, RuntimeError::InvalidPropertyValue},
+      {[&] { b.FontSize = 2160; }, 0},
+      {[&] { b.FontSize = 2160.5f; }, RuntimeError::InvalidPropertyValue},
+      {[&] { b.FontSize = 0; }, RuntimeError::InvalidPropertyValue},
+      {[&] { b.Line(0, 0, std::nanf(""), 3); }, RuntimeError::Overflow},
+      {[&] { b.PaintPicture(QImage(), 0, 0); }, RuntimeError::InvalidPicture},
+  };
+  for (size_t i = 0; i < std::size(cases); ++i) EXPECT_EQ(errorCode(cases[i].call), cases[i].code) << "case " << i;
+  EXPECT_EQ(empty.Point(0, 0), -1);
+  EXPECT_EQ(b.pixelWidth(), 10);
+  EXPECT_EQ(b.pixelHeight(), 10);
 }
 
 TEST_F(BitmapTest, DirtyRectangleCoversOnlyWhatWasDrawn) {
@@ -160,45 +213,10 @@ TEST_F(BitmapTest, DirtyRectangleCoversOnlyWhatWasDrawn) {
   const QRect r = b.takeDirty();
   EXPECT_EQ(r.topLeft(), QPoint(0, 0));
   EXPECT_LE(r.right(), 5);
-
   EXPECT_FALSE(b.takeRefreshRequest());
   b.Refresh();
   EXPECT_TRUE(b.takeRefreshRequest());
   EXPECT_FALSE(b.takeRefreshRequest());
-}
-
-}  // namespace
-}  // namespace qp::test
-
-namespace qp::test {
-namespace {
-
-// Baking again and again (every undo snapshot does it) keeps reusing the same two buffers, and a
-// picture assigned to itself stays what it was.
-TEST_F(BitmapTest, RepeatedBakingReusesBuffersAndKeepsPictures) {
-  PictureBox& b = box(32, 32, 3, 0x000000);
-  b.Picture = b.Image;
-  b.PSet(1, 1, 0x0000FF);
-  const uchar* first = b.bitmap().constBits();
-  b.Picture = b.Image;
-  b.PSet(2, 2, 0x00FF00);
-  const uchar* second = b.bitmap().constBits();
-  b.Picture = b.Image;
-  b.PSet(3, 3, 0xFF0000);
-  EXPECT_EQ(b.bitmap().constBits(), first);
-  b.Picture = b.Image;
-  b.PSet(4, 4, 0xFFFFFF);
-  EXPECT_EQ(b.bitmap().constBits(), second);
-  // Each baked picture holds everything drawn before it, and nothing after.
-  EXPECT_EQ(b.Picture.get().pixel(3, 3) & 0xFFFFFF, 0x0000FFu);
-  EXPECT_EQ(b.Picture.get().pixel(4, 4) & 0xFFFFFF, 0u);
-  EXPECT_EQ(px(b, 1, 1), 0x0000FF);
-  EXPECT_EQ(px(b, 4, 4), 0xFFFFFF);
-
-  b.Picture = b.Picture;
-  b.Cls();
-  EXPECT_EQ(px(b, 3, 3), 0xFF0000);
-  EXPECT_EQ(px(b, 4, 4), 0x000000);
 }
 
 }  // namespace

@@ -9,15 +9,24 @@ namespace {
 using DeviceTest = SurfaceTest;
 constexpr Colour kWhite = 0xFFFFFF, kRed = 0x0000FF, kGreen = 0x00FF00, kBlue = 0xFF0000;
 
+// Probes: the colour expected at each pixel.
+struct Probe {
+  int x, y;
+  Colour c;
+};
+void expectAt(const PictureBox& b, std::initializer_list<Probe> probes, const char* what) {
+  for (const Probe& p : probes) EXPECT_EQ(GetPixel(b, p.x, p.y), p.c) << what << " at " << p.x << ", " << p.y;
+}
+
 TEST_F(DeviceTest, PixelsCarryRedInTheLowByte) {
   PictureBox& b = box(10, 10, 1);  // device calls are in pixels whatever the scale
   SetPixel(b, 3, 4, RGB(10, 20, 30));
   EXPECT_EQ(GetPixel(b, 3, 4), 0x1E140A);
+  EXPECT_EQ(b.bitmap().pixel(3, 4), 0xFF0A141Eu);  // the bitmap is 0xAARRGGBB
+  EXPECT_EQ(b.Point(45, 60), 0x1E140A);
   SetPixel(b, 0, 0, kGreen);  // the first and last pixels are inside
   SetPixel(b, 9, 9, kGreen);
   EXPECT_EQ(count(b, kGreen), 2);
-  EXPECT_EQ(b.bitmap().pixel(3, 4), 0xFF0A141Eu);  // the bitmap is 0xAARRGGBB
-  EXPECT_EQ(b.Point(45, 60), 0x1E140A);
   EXPECT_EQ(GetPixel(b, -1, 0), -1);
   EXPECT_EQ(GetPixel(b, 10, 0), -1);
   SetPixel(b, 10, 10, kWhite);  // outside: nothing
@@ -35,8 +44,7 @@ TEST_F(DeviceTest, FloodFillTakesTheFourConnectedAreaOfExactlyThatColour) {
         if (rng() % 5 < 2) SetPixel(b, x, y, rng() % 4 ? 0x000000 : 0xFEFFFF);  // nearly white walls too
     const int sx = static_cast<int>(rng() % w), sy = static_cast<int>(rng() % h);
     std::vector<char> want(w * h, 0);
-    std::vector<QPoint> todo;
-    if (px(b, sx, sy) == kWhite) todo.push_back({sx, sy});
+    std::vector<QPoint> todo{{sx, sy}};
     while (!todo.empty()) {
       const QPoint p = todo.back();
       todo.pop_back();
@@ -68,11 +76,9 @@ TEST_F(DeviceTest, FloodFillFollowsASerpentineCorridor) {
   // Walls on every other row, open at alternating ends: one corridor that turns back and forth.
   const int w = 31, h = 31;
   PictureBox& b = box(w, h, 3, 0x000000);
-  for (int y = 1; y < h; y += 2) {
-    const int gap = (y / 2) % 2 == 0 ? w - 1 : 0;
+  for (int y = 1; y < h; y += 2)
     for (int x = 0; x < w; ++x)
-      if (x != gap) SetPixel(b, x, y, kWhite);
-  }
+      if (x != ((y / 2) % 2 == 0 ? w - 1 : 0)) SetPixel(b, x, y, kWhite);
   b.FillStyle = 0;
   b.FillColor = kGreen;
   b.takeDirty();
@@ -87,19 +93,14 @@ TEST_F(DeviceTest, TransparentBltLeavesTheKeyOut) {
   SetPixel(src, 1, 1, kGreen);  // the key colour
   PictureBox& dst = box(20, 20, 3, kBlue);
   EXPECT_TRUE(TransparentBlt(dst, 2, 3, 4, 4, src, 0, 0, 4, 4, kGreen));
-  EXPECT_EQ(px(dst, 2, 3), kRed);
-  EXPECT_EQ(px(dst, 3, 4), kBlue);  // under the key
-  EXPECT_EQ(px(dst, 5, 6), kRed);
-  EXPECT_EQ(px(dst, 6, 7), kBlue);
-
   // Stretched twice over: the key pixel becomes a 2x2 hole.
   EXPECT_TRUE(TransparentBlt(dst, 10, 10, 8, 8, src, 0, 0, 4, 4, kGreen));
-  EXPECT_EQ(px(dst, 10, 10), kRed);
-  EXPECT_EQ(px(dst, 12, 12), kBlue);
-  EXPECT_EQ(px(dst, 13, 13), kBlue);
-  EXPECT_EQ(px(dst, 14, 14), kRed);
-  EXPECT_EQ(px(dst, 17, 17), kRed);
-  EXPECT_FALSE(TransparentBlt(dst, 0, 0, 0, 4, src, 0, 0, 4, 4, kGreen));
+  EXPECT_FALSE(TransparentBlt(dst, 0, 0, 0, 4, src, 0, 0, 4, 4, kGreen));  // nothing to copy to or from
+  EXPECT_FALSE(TransparentBlt(dst, 0, 0, 4, 0, src, 0, 0, 4, 4, kGreen));
+  EXPECT_FALSE(TransparentBlt(dst, 0, 0, 4, 4, src, 0, 0, 0, 4, kGreen));
+  EXPECT_FALSE(TransparentBlt(dst, 0, 0, 4, 4, src, 0, 0, 4, 0, kGreen));
+  expectAt(dst, {{2, 3, kRed}, {3, 4, kBlue}, {5, 6, kRed}, {6, 7, kBlue}, {10, 10, kRed}, {12, 12, kBlue},
+                 {13, 13, kBlue}, {14, 14, kRed}, {17, 17, kRed}}, "blt");
 }
 
 TEST_F(DeviceTest, PaintPictureStretchesCopiesPartsAndMirrors) {
@@ -109,30 +110,20 @@ TEST_F(DeviceTest, PaintPictureStretchesCopiesPartsAndMirrors) {
     pic.setPixel(x, 1, qRgb(0, x * 10, 0));
   }
   PictureBox& b = box(40, 40, 3, kWhite);
+  b.takeDirty();
   b.PaintPicture(pic, 0, 0);  // natural size
-  EXPECT_EQ(px(b, 3, 0), RGB(30, 0, 0));
-  EXPECT_EQ(px(b, 4, 0), kWhite);
-
-  b.PaintPicture(pic, 10, 10, 8, 4);  // stretched twice over
-  EXPECT_EQ(px(b, 10, 10), RGB(0, 0, 0));
-  EXPECT_EQ(px(b, 13, 11), RGB(10, 0, 0));
-  EXPECT_EQ(px(b, 17, 13), RGB(0, 30, 0));
-  EXPECT_EQ(px(b, 18, 10), kWhite);
-
+  EXPECT_EQ(b.takeDirty(), QRect(0, 0, 4, 2));
+  expectAt(b, {{3, 0, RGB(30, 0, 0)}, {4, 0, kWhite}}, "natural");
+  b.PaintPicture(pic, 10, 10, 8, 4);
+  expectAt(b, {{10, 10, 0}, {13, 11, RGB(10, 0, 0)}, {17, 13, RGB(0, 30, 0)}, {18, 10, kWhite}}, "stretched");
   b.PaintPicture(pic, 20, 0, -4, 2);  // negative width: mirrored, ending at x1
-  EXPECT_EQ(px(b, 16, 0), RGB(30, 0, 0));
-  EXPECT_EQ(px(b, 19, 0), RGB(0, 0, 0));
-  EXPECT_EQ(px(b, 20, 0), kWhite);
-
+  expectAt(b, {{16, 0, RGB(30, 0, 0)}, {19, 0, 0}, {20, 0, kWhite}}, "mirrored");
   b.PaintPicture(pic, 30, 30, 4, 2, 4, 2, -4, -2);  // source read backwards: both axes flipped
-  EXPECT_EQ(px(b, 30, 30), RGB(0, 30, 0));
-  EXPECT_EQ(px(b, 33, 31), RGB(0, 0, 0));
-
+  expectAt(b, {{30, 30, RGB(0, 30, 0)}, {33, 31, 0}}, "flipped");
   b.PaintPicture(pic, 0, 20, {}, {}, 2, 1, 2, 1);  // a part, one to one
-  EXPECT_EQ(px(b, 0, 20), RGB(0, 20, 0));
-  EXPECT_EQ(px(b, 1, 20), RGB(0, 30, 0));
-  EXPECT_EQ(px(b, 2, 20), kWhite);
-  EXPECT_EQ(px(b, 0, 21), kWhite);
+  expectAt(b, {{0, 20, RGB(0, 20, 0)}, {1, 20, RGB(0, 30, 0)}, {2, 20, kWhite}, {0, 21, kWhite}}, "part");
+  b.PaintPicture(pic, 0, 30, 4, 2, 2, 0, 4, 2);  // a part reaching past the source's edge
+  expectAt(b, {{0, 30, RGB(20, 0, 0)}, {1, 31, RGB(0, 30, 0)}, {2, 30, kWhite}, {3, 31, kWhite}}, "past the edge");
 }
 
 TEST_F(DeviceTest, PaintPictureFromAnotherSurfaceUsesItsUnits) {
@@ -142,16 +133,11 @@ TEST_F(DeviceTest, PaintPictureFromAnotherSurfaceUsesItsUnits) {
   PictureBox& pixels = box(10, 10, 3, kWhite);
   // The source part (75, 75)-(90, 90) twips is the pixel 5, 5.
   pixels.PaintPicture(twips.Picture, 0, 0, 3, 3, 75, 75, 15, 15);
-  EXPECT_EQ(px(pixels, 0, 0), kGreen);
-  EXPECT_EQ(px(pixels, 2, 2), kGreen);
-  EXPECT_EQ(px(pixels, 3, 3), kWhite);
-
+  expectAt(pixels, {{0, 0, kGreen}, {2, 2, kGreen}, {3, 3, kWhite}}, "part in twips");
   // A surface may paint from its own picture: the copy reads the picture as it was.
   pixels.Picture = pixels.Image;
   pixels.PaintPicture(pixels.Picture, 1, 1);
-  EXPECT_EQ(px(pixels, 1, 1), kGreen);
-  EXPECT_EQ(px(pixels, 3, 3), kGreen);
-  EXPECT_EQ(px(pixels, 4, 4), kWhite);
+  expectAt(pixels, {{1, 1, kGreen}, {3, 3, kGreen}, {4, 4, kWhite}}, "from itself");
 }
 
 TEST_F(DeviceTest, PrintWritesAtTheCurrentPositionAndMovesToTheNextLine) {
@@ -172,7 +158,6 @@ TEST_F(DeviceTest, PrintWritesAtTheCurrentPositionAndMovesToTheNextLine) {
   EXPECT_GE(b.CurrentY, 10 + h - 1);
   // Text is drawn without antialiasing: only the pen colour and the background exist.
   EXPECT_EQ(count(b, kBlue) + count(b, kWhite), 300 * 120);
-
   // An opaque font paints its background.
   b.FontTransparent = false;
   b.BackColor = 0x000000;  // also clears
@@ -182,13 +167,28 @@ TEST_F(DeviceTest, PrintWritesAtTheCurrentPositionAndMovesToTheNextLine) {
   b.Print("Wide");
   EXPECT_GT(count(b, kGreen), 0);
   EXPECT_EQ(px(b, 0, 59), 0x000000);
-
   // Sizes follow the scale: twice as many units per pixel reads twice as large.
   b.FontBold = true;
   const Single pixelsWide = b.TextWidth("Bold");
   b.ScaleMode = 1;
   EXPECT_FLOAT_EQ(b.TextWidth("Bold"), pixelsWide * 15);
   EXPECT_GT(b.TextHeight("a\nb"), b.TextHeight("a") * 1.5f);
+  // Each style of the font changes the ink of the same word.
+  PictureBox& t = box(120, 40, 3, kWhite);
+  t.ForeColor = kBlue;
+  t.FontSize = 14;
+  auto printed = [&] {
+    t.Cls();
+    t.Print("Hmm");
+    return t.bitmap().copy();
+  };
+  const QImage plain = printed();
+  Prop<bool>* styles[] = {&t.FontBold, &t.FontItalic, &t.FontUnderline, &t.FontStrikethru};
+  for (int i = 0; i < 4; ++i) {
+    *styles[i] = true;
+    EXPECT_NE(printed(), plain) << "style " << i;
+    *styles[i] = false;
+  }
 }
 
 }  // namespace

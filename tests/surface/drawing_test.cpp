@@ -1,4 +1,4 @@
-// Line, PSet, Point and Circle, read back pixel by pixel.
+// Line, PSet, Point and Circle with their pens and fills, read back pixel by pixel.
 #include <cmath>
 #include <numbers>
 
@@ -8,33 +8,35 @@ namespace qp::test {
 namespace {
 
 using DrawingTest = SurfaceTest;
-constexpr Colour kWhite = 0xFFFFFF, kRed = 0x0000FF, kBlue = 0xFF0000;
+constexpr Colour kWhite = 0xFFFFFF, kRed = 0x0000FF, kGreen = 0x00FF00, kBlue = 0xFF0000;
+constexpr double pi = std::numbers::pi;
 
 TEST_F(DrawingTest, LineFormsAndCurrentPosition) {
   PictureBox& b = box(100, 100);
   b.ForeColor = kRed;
   b.Line(10, 10, 20, 10);  // pen colour, both ends drawn
-  EXPECT_EQ(px(b, 10, 10), kRed);
-  EXPECT_EQ(px(b, 20, 10), kRed);
-  EXPECT_EQ(px(b, 21, 10), 0);
+  EXPECT_EQ(extent(b, kRed), QRect(10, 10, 11, 1));
   EXPECT_EQ(b.CurrentX, 20);
   EXPECT_EQ(b.CurrentY, 10);
-
   b.LineTo(20, 30, kBlue);  // continues from the second point, in the given colour
-  EXPECT_EQ(px(b, 20, 25), kBlue);
-  EXPECT_EQ(b.CurrentY, 30);
-
+  b.LineTo(5, 25, kBlue);   // and runs leftwards and upwards as well
+  EXPECT_EQ(extent(b, kBlue), QRect(5, 10, 16, 21));
+  EXPECT_EQ(px(b, 5, 25), kBlue);
+  EXPECT_EQ(b.CurrentY, 25);
   b.Cls();
   b.LineTo(5, 0, kWhite);  // right after Cls a figure starts at 0, 0
-  EXPECT_EQ(px(b, 0, 0), kWhite);
-  EXPECT_EQ(count(b, kWhite), 6);
-
+  EXPECT_EQ(extent(b, kWhite), QRect(0, 0, 6, 1));
   b.Line(50, 50, 50, 50, kWhite);  // a point to itself is a dot
   EXPECT_EQ(px(b, 50, 50), kWhite);
   b.DrawWidth = 7;
   b.Line(80, 80, 80, 80, kBlue);  // also for wide pens, where it is a round dot
   EXPECT_EQ(extent(b, kBlue), QRect(77, 77, 7, 7));
   EXPECT_EQ(px(b, 77, 77), 0);
+  // From the centre to a point a hundred million pixels out along the diagonal, exactly.
+  PictureBox& far = box(100, 100);
+  far.Line(50, 50, 1e8f, 1e8f, kWhite);
+  for (int i = 50; i < 100; ++i) EXPECT_EQ(px(far, i, i), kWhite) << i;
+  EXPECT_EQ(count(far, kWhite), 50);
 }
 
 TEST_F(DrawingTest, BoxesOutlineAndFilledWithTheLineColour) {
@@ -44,14 +46,11 @@ TEST_F(DrawingTest, BoxesOutlineAndFilledWithTheLineColour) {
   b.Line(30, 40, 10, 20, kRed, LineBox::B);
   EXPECT_EQ(extent(b, kRed), QRect(10, 20, 21, 21));
   EXPECT_EQ(count(b, kRed), 80);
-  EXPECT_EQ(px(b, 20, 30), 0);
   EXPECT_EQ(b.CurrentX, 10);
   EXPECT_EQ(b.CurrentY, 20);
-
   b.Line(40, 5, 50, 10, kWhite, LineBox::BF);
   EXPECT_EQ(count(b, kWhite), 11 * 6);
   EXPECT_EQ(extent(b, kWhite), QRect(40, 5, 11, 6));
-
   // A box outline drawn with xor touches each pixel once, even at the corners of wide pens.
   PictureBox& c = box(60, 60);
   c.DrawMode = 7;
@@ -66,14 +65,11 @@ TEST_F(DrawingTest, WidePensHaveRoundEndsAndKeepTheirWidth) {
   PictureBox& b = box(100, 100);
   b.DrawWidth = 9;
   b.Line(20, 50, 70, 50, kWhite);
-  const QRect r = extent(b, kWhite);
-  EXPECT_EQ(r, QRect(16, 46, 59, 9));
+  EXPECT_EQ(extent(b, kWhite), QRect(16, 46, 59, 9));
   EXPECT_EQ(px(b, 16, 46), 0);  // rounded off at the corners of the ends
   EXPECT_EQ(px(b, 16, 50), kWhite);
   EXPECT_EQ(px(b, 45, 46), kWhite);
-
-  // Diagonal strokes keep their width across the line.
-  b.Cls();
+  b.Cls();  // diagonal strokes keep their width across the line
   b.Line(20, 20, 80, 80, kWhite);
   int across = 0;
   for (int d = -10; d <= 10; ++d) across += px(b, 50 + d, 50 - d) == kWhite;
@@ -108,66 +104,43 @@ TEST_F(DrawingTest, DrawStylesPatternOnlyOnePixelPens) {
   EXPECT_EQ(px(b, 20, 16), kRed);
 }
 
-TEST_F(DrawingTest, PSetAndPoint) {
+TEST_F(DrawingTest, PSetAndPointRoundToPixelsAndIgnoreTheOutside) {
   PictureBox& b = box(50, 50, 1);  // in twips
   b.ForeColor = kBlue;
   b.PSet(150, 150);
-  EXPECT_EQ(px(b, 10, 10), kBlue);
-  EXPECT_EQ(count(b, kBlue), 1);
+  EXPECT_EQ(extent(b, kBlue), QRect(10, 10, 1, 1));
   EXPECT_EQ(b.CurrentX, 150);
-  EXPECT_EQ(b.Point(150, 150), kBlue);
   EXPECT_EQ(b.Point(149.9f, 150.2f), kBlue);  // rounds to the nearest pixel
-
   b.DrawWidth = 4;
   b.PSet(450, 450, kRed);
   EXPECT_EQ(extent(b, kRed), QRect(28, 28, 4, 4));
-
-  // Outside the bitmap Point gives -1, and drawing there changes nothing.
-  EXPECT_EQ(b.Point(-15, 0), -1);
-  EXPECT_EQ(b.Point(50 * 15, 0), -1);
-  EXPECT_EQ(b.Point(0, 1e30f), -1);
-  EXPECT_EQ(b.Point(std::nanf(""), 0), -1);
+  for (const QPointF p : {QPointF(-15, 0), QPointF(50 * 15, 0), QPointF(0, 1e30), QPointF(std::nan(""), 0)})
+    EXPECT_EQ(b.Point(p.x(), p.y()), -1) << p.x() << ", " << p.y();
   b.PSet(-300, 900, kWhite);
   b.Line(-1e30f, 1e30f, 1e30f, 1e30f, kWhite);
   EXPECT_EQ(count(b, kWhite), 0);
 }
 
-TEST_F(DrawingTest, FarAwayEndsKeepTheLineExact) {
-  PictureBox& b = box(100, 100);
-  // From the centre to a point a hundred million pixels out along the diagonal.
-  b.Line(50, 50, 1e8f, 1e8f, kWhite);
-  for (int i = 50; i < 100; ++i) EXPECT_EQ(px(b, i, i), kWhite) << i;
-  EXPECT_EQ(count(b, kWhite), 50);
-}
-
-TEST_F(DrawingTest, CircleSizesByAspect) {
+TEST_F(DrawingTest, CircleSizesByAspectAndStaysCentred) {
   PictureBox& b = box(400, 400);
-  b.Circle(200, 200, 100, kWhite, {}, {}, 0.5);
-  QRect r = extent(b, kWhite);
-  EXPECT_NEAR(r.width(), 200, 1);
-  EXPECT_NEAR(r.height(), 100, 1);
-  EXPECT_NEAR(r.center().x(), 200, 1);
-  EXPECT_NEAR(r.center().y(), 200, 1);
-
-  b.Cls();
-  b.Circle(200, 200, 100, kWhite, {}, {}, 2.0);
-  r = extent(b, kWhite);
-  EXPECT_NEAR(r.width(), 100, 1);
-  EXPECT_NEAR(r.height(), 200, 1);
-
-  // A circle mostly off the bitmap still shows the part that is on it.
-  b.Cls();
-  b.Circle(-10, 200, 10, kWhite);
-  EXPECT_EQ(px(b, 0, 200), kWhite);
-
-  b.Cls();
-  b.Circle(200, 200, 50, kWhite);
-  r = extent(b, kWhite);
-  EXPECT_NEAR(r.width(), 100, 1);
-  EXPECT_NEAR(r.height(), 100, 1);
+  // Centre, radius, aspect: the extent of the outline.
+  const struct { int x, y, r; double aspect; QRect outline; } cases[] = {
+      {200, 200, 100, 0.5, {100, 150, 201, 101}}, {200, 200, 100, 2.0, {150, 100, 101, 201}},
+      {200, 200, 50, 1.0, {150, 150, 101, 101}}};
+  for (const auto& c : cases) {
+    b.Cls();
+    b.Circle(c.x, c.y, c.r, kWhite, {}, {}, c.aspect);
+    const QRect r = extent(b, kWhite);
+    EXPECT_NEAR(r.left(), c.outline.left(), 1) << c.r << " / " << c.aspect;
+    EXPECT_NEAR(r.top(), c.outline.top(), 1) << c.r << " / " << c.aspect;
+    EXPECT_NEAR(r.right(), c.outline.right(), 1) << c.r << " / " << c.aspect;
+    EXPECT_NEAR(r.bottom(), c.outline.bottom(), 1) << c.r << " / " << c.aspect;
+  }
   EXPECT_EQ(px(b, 200, 200), 0);  // FillStyle 1: outline only
   EXPECT_EQ(b.CurrentX, 200);
   EXPECT_EQ(b.CurrentY, 200);
+  b.Circle(-10, 200, 10, kWhite);  // mostly off the bitmap, the part on it shows
+  EXPECT_EQ(px(b, 0, 200), kWhite);
 }
 
 TEST_F(DrawingTest, CircleFillAndArcs) {
@@ -178,18 +151,15 @@ TEST_F(DrawingTest, CircleFillAndArcs) {
   EXPECT_EQ(px(b, 100, 100), kBlue);
   EXPECT_EQ(px(b, 140, 100), kRed);
   EXPECT_EQ(px(b, 60, 100), kRed);
-
   // An arc from 0 to pi/2 runs counter-clockwise: right, then up.
   b.FillStyle = 1;
   b.Cls();
-  constexpr double pi = std::numbers::pi;
   b.Circle(100, 100, 50, kWhite, 0.0, pi / 2);
   EXPECT_EQ(extent(b, kWhite).bottom(), 100);
   EXPECT_EQ(extent(b, kWhite).left(), 100);
   EXPECT_EQ(px(b, 150, 100), kWhite);
   EXPECT_EQ(px(b, 100, 50), kWhite);
   EXPECT_EQ(px(b, 120, 100), 0);  // no radius without a negative angle
-
   // Negative ends add the radii and close a filled pie slice.
   b.Cls();
   b.FillStyle = 0;
@@ -198,52 +168,68 @@ TEST_F(DrawingTest, CircleFillAndArcs) {
   EXPECT_EQ(px(b, 100, 75), kWhite);   // radius up
   EXPECT_EQ(px(b, 120, 80), kBlue);    // inside the slice
   EXPECT_EQ(px(b, 80, 120), 0);        // the other quarters stay empty
+  // A whole ellipse is filled row by row inside its outline.
+  PictureBox& e = box(100, 60, 3);
+  e.FillStyle = 0;
+  e.FillColor = kGreen;
+  e.Circle(50, 30, 40, kWhite, {}, {}, 0.5);  // 80 x 40
+  for (const QPoint p : {QPoint(50, 30), QPoint(88, 30), QPoint(50, 48)}) EXPECT_EQ(px(e, p.x(), p.y()), kGreen);
+  EXPECT_EQ(px(e, 50, 52), 0);
+  EXPECT_EQ(px(e, 5, 30), 0);
+  EXPECT_TRUE(QRect(9, 9, 83, 43).contains(extent(e, kGreen)));
+}
+
+// The hatched fill styles: lines of FillColor on an 8-pixel grid anchored at the bitmap's origin,
+// with the picture beneath showing between them.
+TEST_F(DrawingTest, EachHatchLaysItsLinesOnTheGridOfTheOrigin) {
+  struct Case {
+    int style;
+    bool on[5];  // whether the fill shows at (24,24), (25,24), (24,25), (25,25), (31,25)
+  };
+  const QPoint at[5] = {{24, 24}, {25, 24}, {24, 25}, {25, 25}, {31, 25}};
+  for (const Case& c : {Case{2, {1, 1, 0, 0, 0}}, Case{3, {1, 0, 1, 0, 0}}, Case{4, {1, 0, 0, 1, 0}},
+                        Case{5, {1, 0, 0, 0, 1}}, Case{6, {1, 1, 1, 0, 0}}, Case{7, {1, 0, 0, 1, 1}}}) {
+    PictureBox& b = box(64, 64, 3, kRed);
+    b.FillStyle = c.style;
+    b.FillColor = kGreen;
+    b.Circle(30, 30, 25, kWhite);
+    for (int i = 0; i < 5; ++i)
+      EXPECT_EQ(px(b, at[i].x(), at[i].y()), c.on[i] ? kGreen : kRed) << "style " << c.style << " point " << i;
+  }
+  // With xor both diagonals of the crossed hatch show, and where they cross the pen mixes once.
+  PictureBox& x = box(64, 64, 3, kRed);
+  x.DrawMode = 7;
+  x.FillStyle = 7;
+  x.FillColor = kGreen;
+  x.Circle(30, 30, 25, kWhite);
+  for (const QPoint p : {QPoint(24, 24), QPoint(28, 28), QPoint(25, 25), QPoint(31, 25), QPoint(20, 28)})
+    EXPECT_EQ(px(x, p.x(), p.y()), kRed ^ kGreen) << p.x() << ", " << p.y();
+  EXPECT_EQ(px(x, 25, 24), kRed);
 }
 
 // Every DrawMode against its bitwise formula on the 24 colour bits, with the bitmap kept opaque.
 TEST_F(DrawingTest, DrawModesFollowTheirRasterOperation) {
-  const Colour pen = 0x3C5AF0, dst = 0xA5C30F;
-  const auto formula = [](int mode, std::uint32_t p, std::uint32_t d) -> std::uint32_t {
-    switch (mode) {
-      case 1: return 0;
-      case 2: return ~(p | d);
-      case 3: return d & ~p;
-      case 4: return ~p;
-      case 5: return p & ~d;
-      case 6: return ~d;
-      case 7: return p ^ d;
-      case 8: return ~(p & d);
-      case 9: return p & d;
-      case 10: return ~(p ^ d);
-      case 11: return d;
-      case 12: return d | ~p;
-      case 13: return p;
-      case 14: return p | ~d;
-      case 15: return p | d;
-      default: return 0xFFFFFF;
-    }
-  };
+  const std::uint32_t p = 0x3C5AF0, d = 0xA5C30F;
+  const std::uint32_t formula[17] = {0,        0,      ~(p | d), d & ~p, ~p,     p & ~d,   ~d,       p ^ d, ~(p & d),
+                                     p & d,    ~(p ^ d), d,      d | ~p, p,      p | ~d,   p | d,    0xFFFFFF};
   for (int mode = 1; mode <= 16; ++mode) {
-    PictureBox& b = box(40, 40, 3, dst);
+    PictureBox& b = box(40, 40, 3, d);
     b.DrawMode = mode;
-    const Colour want = static_cast<Colour>(formula(mode, pen, dst) & 0xFFFFFF);
-    b.Line(2, 2, 30, 2, pen);  // thin line
+    const Colour want = static_cast<Colour>(formula[mode] & 0xFFFFFF);
+    b.Line(2, 2, 30, 2, p);  // thin line
     b.DrawWidth = 3;
-    b.Line(2, 10, 30, 10, pen);  // wide line
-    b.Line(2, 20, 8, 24, pen, LineBox::BF);
+    b.Line(2, 10, 30, 10, p);  // wide line
+    b.Line(2, 20, 8, 24, p, LineBox::BF);
     b.DrawWidth = 1;
-    b.Circle(25, 28, 6, pen);  // circles go through QPainter's raster operations
-    b.DrawStyle = 5;           // a fill without outline
+    b.Circle(25, 28, 6, p);  // circles go through QPainter's raster operations
+    b.DrawStyle = 5;         // a fill without outline
     b.FillStyle = 0;
-    b.FillColor = pen;
+    b.FillColor = p;
     b.Circle(10, 32, 4);
-    EXPECT_EQ(px(b, 15, 2), want) << "line, mode " << mode;
-    EXPECT_EQ(px(b, 15, 10), want) << "wide line, mode " << mode;
-    EXPECT_EQ(px(b, 5, 22), want) << "box, mode " << mode;
-    EXPECT_EQ(px(b, 31, 28), want) << "circle outline, mode " << mode;
-    EXPECT_EQ(px(b, 25, 28), dst) << "circle inside, mode " << mode;
-    EXPECT_EQ(px(b, 10, 32), want) << "circle fill, mode " << mode;
-    EXPECT_EQ(px(b, 38, 38), dst) << "untouched, mode " << mode;
+    const struct { int x, y; Colour c; const char* what; } probes[] = {
+        {15, 2, want, "line"},     {15, 10, want, "wide line"},     {5, 22, want, "box"},
+        {31, 28, want, "outline"}, {25, 28, d, "circle inside"}, {10, 32, want, "circle fill"}, {38, 38, d, "untouched"}};
+    for (const auto& q : probes) EXPECT_EQ(px(b, q.x, q.y), q.c) << q.what << ", mode " << mode;
     EXPECT_TRUE(allOpaque(b)) << "mode " << mode;
   }
 }
