@@ -152,10 +152,15 @@ TEST(Recorder, AWorkshopWindowsInputReplaysToTheSamePicture) {
   ASSERT_EQ(tile.lT2.Caption.get(), "1");
   // The time the tiling took reaches the script with the next input.
   mouse(tileView.widgetFor(&tile.pLO), QEvent::MouseMove, {5, 5}, Qt::NoButton, Qt::NoButton);
+  // A key to the workshop window itself, where no control has the focus.
+  if (QWidget* focus = QApplication::focusWidget()) focus->clearFocus();
+  QKeyEvent ctrl(QEvent::KeyPress, Qt::Key_Control, Qt::ControlModifier);
+  QApplication::sendEvent(tileView.window().centralWidget(), &ctrl);
+  ASSERT_EQ(tile.CtrlDown, -1);
 
   const QString script = QString::fromUtf8(file.data());
   for (const char* line : {"menu mTileSet\n", "menu frmTile.mQuillora\n", "set frmTile.vTile.Value 1\n",
-                           "click frmTile.cTile\nwait 500\nmove frmTile.pLO 5 5 none\n"})
+                           "click frmTile.cTile\nwait 500\nmove frmTile.pLO 5 5 none\nkey Ctrl down\n"})
     EXPECT_TRUE(script.contains(line)) << line << " in\n" << script.toStdString();
 
   std::vector<Command> commands;
@@ -167,6 +172,7 @@ TEST(Recorder, AWorkshopWindowsInputReplaysToTheSamePicture) {
   HeadlessSession replay(99, QSize(1280, 1024), out);
   Runner runner(replay.program(), replay.rt(), replay, out, out);
   ASSERT_EQ(runner.runAll(commands), 0) << printed.toStdString();
+  EXPECT_EQ(replay.program().w.tile.CtrlDown, -1);
   const QImage a = tile.pLO.bitmap(), b = replay.program().w.tile.pLO.bitmap();
   EXPECT_EQ(a, b);
   bool painted = false;  // the stroke, tiled
