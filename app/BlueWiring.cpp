@@ -4,6 +4,7 @@
 #include "files/Explorer.h"
 #include "ui/Windows.h"
 #include "workshops/TransparencyTool.h"
+#include "workshops/WorkshopCommon.h"
 
 namespace qp {
 
@@ -31,12 +32,9 @@ void wireTransparencyTool(Session& s) {
   b.mInstrct.Click = [&s] { Blue_mInstrct_Click(s); };
   b.Label1.Click = [&s] { Blue_Label1_Click(s); };
 
-  b.File1.MouseDown = [&s](int button, int, Single, Single) { Blue_File1_MouseDown(s, button); };
-  b.Dir1.Change = [&b] { trap([&] { b.File1.Path = b.Dir1.Path.get(); }); };
-  b.Drive1.Change = [&b] { trap([&] { b.Dir1.Path = b.Drive1.Drive.get(); }); };
-  b.cKay.Click = [&s] { Blue_cKay_Click(s); };
-  b.cPatt.Click = [&s] { Blue_cPatt_Click(s); };
-  b.cCancel.Click = [&s] { Blue_cCancel_Click(s); };
+  wireWorkshopExplorer(b.explorer);
+  b.explorer.cKay.Click = [&s] { Blue_cKay_Click(s); };
+  b.explorer.cCancel.Click = [&s] { Blue_cCancel_Click(s); };
 
   b.lBlk.Click = [&s] { Blue_KeyColour_Click(s, 0); };
   b.lWht.Click = [&s] { Blue_KeyColour_Click(s, 1); };

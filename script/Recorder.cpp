@@ -14,6 +14,7 @@
 #include <QScrollBar>
 #include <QUrl>
 #include <cstdio>
+#include <memory>
 
 #include "platform/Controls.h"
 #include "platform/EventLoop.h"
@@ -49,7 +50,7 @@ QString number(double v) { return QString::number(v, 'g', 10); }
 }  // namespace
 
 Recorder::Recorder(FormView& view, EventLoop& clock, std::uint32_t seed, QIODevice& out)
-    : view_(view), clock_(clock), out_(&out) {
+    : view_(view), views_{&view}, clock_(clock), out_(&out) {
   out_ << "# recorded by Quillora Pro on " << QDateTime::currentDateTime().toString(Qt::ISODate) << '\n';
   out_ << "seed " << seed << Qt::endl;
   last_ = clock_.now();
@@ -58,6 +59,11 @@ Recorder::Recorder(FormView& view, EventLoop& clock, std::uint32_t seed, QIODevi
 }
 
 Recorder::~Recorder() { qApp->removeEventFilter(this); }
+
+void Recorder::watch(FormView& side) {
+  views_.push_back(&side);
+  refresh();
+}
 
 void Recorder::write(const QString& line) {
   const std::int64_t now = clock_.now();
@@ -74,13 +80,15 @@ QString Recorder::nameOf(const Control& c) const {
 
 void Recorder::refresh() {
   byWidget_.clear();
-  Form& form = view_.form();
-  // The window's own area stands for the form: keys with no focused control, clicks beside them.
-  if (QWidget* w = view_.window().centralWidget()) byWidget_[w] = &form;
-  for (Control* c : form.controls()) {
-    auto* v = dynamic_cast<VisualControl*>(c);
-    QWidget* w = v ? view_.widgetFor(c) : nullptr;
-    if (w) byWidget_[w] = v;
+  for (FormView* view : views_) {
+    Form& form = view->form();
+    // The window's own area stands for the form: keys with no focused control, clicks beside them.
+    if (QWidget* w = view->window().centralWidget()) byWidget_[w] = &form;
+    for (Control* c : form.controls()) {
+      auto* v = dynamic_cast<VisualControl*>(c);
+      QWidget* w = v ? view->widgetFor(c) : nullptr;
+      if (w) byWidget_[w] = v;
+    }
   }
   watchWidgets();
 }
@@ -132,13 +140,14 @@ void Recorder::recordMenu(QObject* watched, QEvent* e) {
     if (k == Qt::Key_Return || k == Qt::Key_Enter) action = menu->activeAction();
   }
   if (!action || action->menu() || action->isSeparator() || !action->isEnabled()) return;
-  for (Control* c : view_.form().controls()) {
-    auto* m = dynamic_cast<Menu*>(c);
-    if (m && view_.actionFor(m) == action) {
-      write("menu " + nameOf(*m));
-      return;
+  for (FormView* view : views_)
+    for (Control* c : view->form().controls()) {
+      auto* m = dynamic_cast<Menu*>(c);
+      if (m && view->actionFor(m) == action) {
+        write("menu " + nameOf(*m));
+        return;
+      }
     }
-  }
 }
 
 bool Recorder::eventFilter(QObject* watched, QEvent* e) {
@@ -146,11 +155,14 @@ bool Recorder::eventFilter(QObject* watched, QEvent* e) {
   const bool mouse = t == QEvent::MouseButtonPress || t == QEvent::MouseButtonRelease ||
                      t == QEvent::MouseMove || t == QEvent::MouseButtonDblClick;
   const bool key = t == QEvent::KeyPress || t == QEvent::KeyRelease;
-  if (t == QEvent::Resize && watched == &view_.window()) {
-    // The user sizing the window: the form hears of it in twips, as the view tells it.
-    const QSize size = view_.window().size();
-    write(QString("set %1.Width %2").arg(view_.form().Name()).arg(size.width() * 15));
-    write(QString("set %1.Height %2").arg(view_.form().Name()).arg(size.height() * 15));
+  if (t == QEvent::Resize) {
+    // The user sizing a window: the form hears of it in twips, as the view tells it.
+    for (FormView* view : views_)
+      if (watched == &view->window()) {
+        const QSize size = view->window().size();
+        write(QString("set %1.Width %2").arg(view->form().Name()).arg(size.width() * 15));
+        write(QString("set %1.Height %2").arg(view->form().Name()).arg(size.height() * 15));
+      }
     return false;
   }
   if (!mouse && !key && t != QEvent::Drop && t != QEvent::FocusIn) return false;
@@ -180,7 +192,9 @@ bool Recorder::eventFilter(QObject* watched, QEvent* e) {
     // Only the delivery the window acts on counts: to the focused widget, or to the window itself
     // when no control has the focus. Qt hands an ignored key to each parent too.
     QWidget* focus = QApplication::focusWidget();
-    const bool toWindow = watched == view_.window().centralWidget() && !(focus && controlOf(focus));
+    bool toWindow = false;
+    for (FormView* view : views_) toWindow = toWindow || watched == view->window().centralWidget();
+    toWindow = toWindow && !(focus && controlOf(focus));
     if (watched != focus && !toWindow) return false;
     if (c->kind() == ControlKind::TextBox) return false;  // its text is recorded as it changes
     auto* ke = static_cast<QKeyEvent*>(e);
@@ -193,7 +207,7 @@ bool Recorder::eventFilter(QObject* watched, QEvent* e) {
     return false;
   }
   if (t == QEvent::FocusIn) {
-    if (c != &view_.form()) write("focus " + name);
+    if (c->kind() != ControlKind::Form) write("focus " + name);
     return false;
   }
   // A drop: one line for each file, as each would be dropped alone.
@@ -217,6 +231,14 @@ int runRecording(const QString& file) {
   Program program(runtime.rt(), [] { QApplication::exit(0); });
   FormView view(program.f);
   Recorder recorder(view, runtime.loop, seed, out);
+  // The other windows are shown as the program opens them, and what the user does there is
+  // recorded as well.
+  std::vector<std::unique_ptr<FormView>> sides;
+  for (Form* side : std::initializer_list<Form*>{&program.w.file, &program.w.lo, &program.w.tile, &program.w.blend,
+                                                 &program.w.stretch, &program.w.full, &program.w.blue}) {
+    sides.push_back(std::make_unique<FormView>(*side));
+    recorder.watch(*sides.back());
+  }
   program.start();
   view.sync();
   view.window().show();

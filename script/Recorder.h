@@ -7,6 +7,7 @@
 #include <QPointer>
 #include <QTextStream>
 #include <unordered_map>
+#include <vector>
 
 namespace qp {
 class Control;
@@ -23,6 +24,10 @@ class Recorder : public QObject {
   Recorder(FormView& view, EventLoop& clock, std::uint32_t seed, QIODevice& out);
   ~Recorder() override;
 
+  // Records the input of another window of the same program too (a workshop window); its
+  // controls are written as `frmTile.cTile`. The view must outlive the recorder.
+  void watch(FormView& side);
+
   // One line of the script, after the wait since the line before.
   void write(const QString& line);
 
@@ -36,7 +41,8 @@ class Recorder : public QObject {
   void recordMenu(QObject* watched, QEvent* e);
   void watchWidgets();
 
-  FormView& view_;
+  FormView& view_;               // the main window: its controls go by their bare names
+  std::vector<FormView*> views_;  // every window watched, the main one first
   EventLoop& clock_;
   QTextStream out_;
   std::int64_t last_ = 0;

@@ -16,7 +16,7 @@ ControlPanel::ControlPanel(Form& f, Frame& strip)
       lModeB(&f, &fVal, "lModeB"),
       lMode(&f, &fVal, "lMode"),
       lStats(&f, &fVal, "lStats"),
-      lTell(&f, &fVal, "lTell"),
+      lTell(&f, nullptr, "lTell"),
       lHelpb(&f, nullptr, "lHelpb"),
       lHelp(&f, nullptr, "lHelp"),
       lX(&f, nullptr, "lX"),
@@ -50,7 +50,7 @@ ControlPanel::ControlPanel(Form& f, Frame& strip)
       vFont(&f, &fText, "vFont"),
       Text1(&f, &fText, "Text1"),
       ckFreeTx(&f, &fVal, "ckFreeTx"),
-      ckTx(&f, &fVal, "ckTx"),
+      ckTx(&f, &fText, "ckTx"),
       ckTxGrad(&f, &fVal, "ckTxGrad"),
       fShad(&f, nullptr, "fShad"),
       pShadTest(&f, &fShad, "pShadTest"),
@@ -84,9 +84,12 @@ ControlPanel::ControlPanel(Form& f, Frame& strip)
   lStats.BackStyle = 0;
   lStats.ForeColor = 0xC0C0C0;
   lStats.Alignment = 2;
-  place(lTell, 30, 525, 1350, 225);
+  // The state line carries whole sentences ("Click arrows to set Aspect ratio   Current Aspect : 5"),
+  // which the panel has no room for: it wraps them in the left column, under the tallest help text,
+  // in a colour that reads on the window's own background there.
+  place(lTell, 0, 6120, 1425, 1200);
   lTell.BackStyle = 0;
-  lTell.ForeColor = 0xC0C0FF;
+  lTell.ForeColor = 0x800000;
   lTell.Alignment = 2;
 
   // Row n: a short bar with its label, in a frame whose colour says whether the row is live.
@@ -184,7 +187,6 @@ ControlPanel::ControlPanel(Form& f, Frame& strip)
   // Floating frames over the canvas; start-up places them.
   place(fText, 60, 960, 4500, 3000);
   fText.Visible = false;
-  place(fTcover, 0, 0, 4500, 600);
   place(lstFont, 120, 240, 2400, 2400);
   place(vFont, 2640, 240, 255, 600);
   setBar(vFont, 120, 8, 24, 1, 1);

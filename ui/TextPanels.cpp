@@ -15,15 +15,18 @@ TextPanels::TextPanels(Form& f, ControlPanel& panel)
       HScroll1(&f, &Frame2, "HScroll1"),
       vWid(&f, &Frame2, "vWid"),
       vHgt(&f, &Frame2, "vHgt") {
-  // The text options sit where the panel's check boxes sit in other modes.
-  place(panel.ckTx, 60, 780, 1300, 210);
+  // The text options sit where the panel's check boxes sit in other modes, but for the random
+  // size, whose caption is wider than the panel: it goes under the font size bar that it varies.
+  place(panel.ckTx, 2640, 1320, 1800, 210);
   panel.ckTx.Caption = "Random Font Size";
+  panel.ckTx.BackColor = panel.fText.BackColor;  // in the frame's colours, not the panel's
+  panel.ckTx.ForeColor = panel.fText.ForeColor;
   place(panel.ckFreeTx, 60, 1020, 1300, 210);
   panel.ckFreeTx.Caption = "Paint w/Text";
   place(panel.ckTxGrad, 60, 1260, 1300, 210);
   panel.ckTxGrad.Caption = "Random       Colors";
 
-  place(lFont, 2640, 900, 600, 225);
+  place(lFont, 2640, 900, 360, 225);  // up to the depth box: "120" at most
   lFont.Caption = "24";
   lFont.BackStyle = 0;
   lFont.ForeColor = 0xFFFFFF;
@@ -40,6 +43,13 @@ TextPanels::TextPanels(Form& f, ControlPanel& panel)
   pCoords.ScaleWidth = 80;
   pCoords.ScaleTop = -40;
   pCoords.ScaleHeight = 80;
+  // Text Brush has no use for the depth and axis boxes: a cover lies over them there. Registered
+  // again, so that it comes after them and is drawn above them.
+  f.remove(&panel.fTcover);
+  f.add(&panel.fTcover);
+  place(panel.fTcover, 3000, 0, 1500, 1200);
+  panel.fTcover.BorderStyle = 0;
+  panel.fTcover.BackColor = panel.fText.BackColor;
 
   place(vShad, 3960, 120, 255, 600);
   setBar(vShad, 96, 12, 12, 2, 2);

@@ -4,7 +4,7 @@
 
 namespace qp {
 
-WorkshopExplorer::WorkshopExplorer(Form& f, Frame& fX, const char* previewName)
+WorkshopExplorer::WorkshopExplorer(Form& f, Frame& fX, const char* previewName, ExplorerButtons buttons)
     : Drive1(&f, &fX, "Drive1"),
       Dir1(&f, &fX, "Dir1"),
       File1(&f, &fX, "File1"),
@@ -23,12 +23,13 @@ WorkshopExplorer::WorkshopExplorer(Form& f, Frame& fX, const char* previewName)
   place(preview, 120, 2880, 2415, 2175);
   preview.Stretch = true;
   preview.BackColor = 0x808080;
-  place(cKay, 2640, 2880, 2415, 495);
-  cKay.Caption = "OK";
-  place(cPatt, 2640, 3480, 2415, 495);
+  const int pitch = buttons.height + 105;
+  place(cKay, 2640, 2880, 2415, buttons.height);
+  cKay.Caption = buttons.ok;
+  place(cPatt, 2640, 2880 + pitch, 2415, buttons.height);
   cPatt.Caption = "*.bmp / *.jpg";
-  place(cCancel, 2640, 4080, 2415, 495);
-  cCancel.Caption = "Cancel";
+  place(cCancel, 2640, 2880 + 2 * pitch, 2415, buttons.height);
+  cCancel.Caption = buttons.cancel;
 }
 
 }  // namespace qp

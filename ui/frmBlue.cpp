@@ -43,13 +43,7 @@ frmBlue::frmBlue(Runtime& rt)
       lY(this, nullptr, "lY"),
       tSel(this, "tSel", 200),
       fX(this, nullptr, "fX"),
-      Drive1(this, &fX, "Drive1"),
-      Dir1(this, &fX, "Dir1"),
-      File1(this, &fX, "File1"),
-      cPatt(this, &fX, "cPatt"),
-      cKay(this, &fX, "cKay"),
-      cCancel(this, &fX, "cCancel"),
-      iPre(this, &fX, "iPre"),
+      explorer(*this, fX, "iPre", {"Open", "Close", 555}),
       fStruct(this, nullptr, "fStruct"),
       Label1(this, &fStruct, "Label1") {
   Caption = "Transparency Tool";
@@ -125,23 +119,6 @@ frmBlue::frmBlue(Runtime& rt)
   lY.Caption = "Y:";
 
   place(fX, 120, 120, 5175, 5175);
-  fX.Caption = "Explorer";
-  fX.BackColor = 0x404040;
-  fX.ForeColor = 0xE0E0E0;
-  fX.Visible = false;
-  place(Drive1, 120, 240, 2415, 315);
-  place(Dir1, 120, 600, 2415, 2160);
-  place(File1, 2640, 240, 2415, 2520);
-  File1.Pattern = "*.bmp";
-  place(iPre, 120, 2880, 2415, 2175);
-  iPre.Stretch = true;
-  iPre.BackColor = 0x808080;
-  place(cKay, 2640, 2880, 2415, 555);
-  cKay.Caption = "Open";
-  place(cPatt, 2640, 3540, 2415, 555);
-  cPatt.Caption = "*.bmp / *.jpg";
-  place(cCancel, 2640, 4200, 2415, 555);
-  cCancel.Caption = "Close";
 
   place(fStruct, 720, 0, 7200, 5400);
   fStruct.Caption = "Instructions";

@@ -9,6 +9,7 @@
 #include "platform/Form.h"
 #include "platform/Timer.h"
 #include "surface/PictureBox.h"
+#include "ui/WorkshopExplorer.h"
 
 namespace qp {
 
@@ -40,11 +41,7 @@ class frmBlue : public Form {
   Timer tSel;              // blinks DShp
 
   Frame fX;            // Explorer panel
-  DriveListBox Drive1;
-  DirListBox Dir1;
-  FileListBox File1;
-  CommandButton cPatt, cKay, cCancel;
-  Image iPre;
+  WorkshopExplorer explorer;
 
   Frame fStruct;       // the instructions
   Label Label1;

@@ -120,34 +120,17 @@ void frmBlue_KeyUp(Session& s, int KeyCode) {
 
 void Blue_mOpen_Click(Session& s) {
   withWindow(s, [](frmBlue& b) {
-    b.File1.Refresh();
+    b.explorer.File1.Refresh();
     b.fX.Visible = true;
     b.fStruct.Visible = false;
   });
 }
 
-void Blue_File1_MouseDown(Session& s, int Button) {
-  if (Button != vbLeftButton) return;
-  withWindow(s, [](frmBlue& b) {
-    const QString name = b.File1.FileName();
-    if (name.isEmpty()) return;
-    b.iPre.Picture = LoadPicture(joinPath(b.File1.Path, name));  // a broken file keeps the old preview
-    b.iPre.touch();
-  });
-}
-
 void Blue_cKay_Click(Session& s) {
   withWindow(s, [](frmBlue& b) {
-    if (b.File1.FileName().isEmpty()) return;
-    takePicture(b, b.iPre.Picture);
+    if (b.explorer.File1.FileName().isEmpty()) return;
+    takePicture(b, b.explorer.preview.Picture);
     b.fX.Visible = false;
-  });
-}
-
-void Blue_cPatt_Click(Session& s) {
-  withWindow(s, [](frmBlue& b) {
-    if (b.File1.Pattern == QString("*.bmp")) b.File1.Pattern = "*.jpg";
-    else if (b.File1.Pattern == QString("*.jpg")) b.File1.Pattern = "*.bmp";
   });
 }
 

@@ -14,9 +14,7 @@ void frmBlue_KeyUp(Session& s, int KeyCode);
 
 // Loading and the Edit menu.
 void Blue_mOpen_Click(Session& s);
-void Blue_File1_MouseDown(Session& s, int Button);
 void Blue_cKay_Click(Session& s);
-void Blue_cPatt_Click(Session& s);
 void Blue_cCancel_Click(Session& s);
 void Blue_mPrev_Click(Session& s);
 void Blue_mCpyInt_Click(Session& s);

@@ -1,6 +1,7 @@
 // A session recorded through the real window replays headless to the same picture.
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QBuffer>
 #include <QKeyEvent>
@@ -118,6 +119,66 @@ TEST(Recorder, ARecordedSessionReplaysToTheSameStrokes) {
   ASSERT_EQ(a.size(), b.size());
   EXPECT_EQ(a, b);
   EXPECT_NE(a.pixel(30, 40) & 0xFFFFFF, 0u);  // the stroke is there
+}
+
+// The workshop windows' input is recorded too, under their windows' names, and replays to the same
+// tiling.
+TEST(Recorder, AWorkshopWindowsInputReplaysToTheSamePicture) {
+  QBuffer file;
+  file.open(QIODevice::ReadWrite);
+  HeadlessRuntime live(99);
+  Program program(live.rt());
+  FormView view(program.f), tileView(program.w.tile);
+  Recorder recorder(view, live.loop, 99, file);
+  recorder.watch(tileView);
+  program.start();
+  view.sync();
+  view.window().show();
+  chooseFromMenu(view, program.f.mPencil);
+  QWidget* canvas = view.widgetFor(&program.f.PicPaint);
+  mouse(canvas, QEvent::MouseButtonPress, {20, 30}, Qt::LeftButton, Qt::LeftButton);
+  mouse(canvas, QEvent::MouseMove, {300, 200}, Qt::NoButton, Qt::LeftButton);
+  mouse(canvas, QEvent::MouseButtonRelease, {300, 200}, Qt::LeftButton, Qt::NoButton);
+
+  frmTile& tile = program.w.tile;
+  chooseFromMenu(view, program.f.mTileSet);
+  tileView.sync();
+  chooseFromMenu(tileView, tile.mQuillora);
+  stepUp(tileView, tile.vTile);
+  auto* go = qobject_cast<QAbstractButton*>(tileView.widgetFor(&tile.cTile));
+  ASSERT_TRUE(go);
+  go->click();
+  live.loop.advance(500);
+  ASSERT_EQ(tile.lT2.Caption.get(), "1");
+  // The time the tiling took reaches the script with the next input.
+  mouse(tileView.widgetFor(&tile.pLO), QEvent::MouseMove, {5, 5}, Qt::NoButton, Qt::NoButton);
+  // A key to the workshop window itself, where no control has the focus.
+  if (QWidget* focus = QApplication::focusWidget()) focus->clearFocus();
+  QKeyEvent ctrl(QEvent::KeyPress, Qt::Key_Control, Qt::ControlModifier);
+  QApplication::sendEvent(tileView.window().centralWidget(), &ctrl);
+  ASSERT_EQ(tile.CtrlDown, -1);
+
+  const QString script = QString::fromUtf8(file.data());
+  for (const char* line : {"menu mTileSet\n", "menu frmTile.mQuillora\n", "set frmTile.vTile.Value 1\n",
+                           "click frmTile.cTile\nwait 500\nmove frmTile.pLO 5 5 none\nkey Ctrl down\n"})
+    EXPECT_TRUE(script.contains(line)) << line << " in\n" << script.toStdString();
+
+  std::vector<Command> commands;
+  ParseError perr;
+  ASSERT_TRUE(parseScript(script, commands, perr)) << perr.line << ": " << perr.message.toStdString();
+  takeLeadingSeed(commands);
+  QString printed;
+  QTextStream out(&printed);
+  HeadlessSession replay(99, QSize(1280, 1024), out);
+  Runner runner(replay.program(), replay.rt(), replay, out, out);
+  ASSERT_EQ(runner.runAll(commands), 0) << printed.toStdString();
+  EXPECT_EQ(replay.program().w.tile.CtrlDown, -1);
+  const QImage a = tile.pLO.bitmap(), b = replay.program().w.tile.pLO.bitmap();
+  EXPECT_EQ(a, b);
+  bool painted = false;  // the stroke, tiled
+  for (int y = 0; y < a.height() && !painted; ++y)
+    for (int x = 0; x < a.width() && !painted; ++x) painted = (a.pixel(x, y) & 0xFFFFFF) != 0;
+  EXPECT_TRUE(painted);
 }
 
 }  // namespace qp::script
