@@ -128,10 +128,10 @@ void Blue_mOpen_Click(Session& s) {
 
 void Blue_File1_MouseDown(Session& s, int Button) {
   if (Button != vbLeftButton) return;
-  withWindow(s, [](frmBlue& b) {
+  withWindow(s, [&s](frmBlue& b) {
     const QString name = b.File1.FileName();
     if (name.isEmpty()) return;
-    b.iPre.Picture = LoadPicture(joinPath(b.File1.Path, name));  // a broken file keeps the old preview
+    b.iPre.Picture = LoadPicture(joinPath(b.File1.Path, name), s.f.PicPaint.BackColor);  // a broken file keeps the old preview
     b.iPre.touch();
   });
 }
