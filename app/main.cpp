@@ -16,6 +16,8 @@
 #include "platform/qt/QtRuntime.h"
 #include "script/CommandLine.h"
 #include "app/Program.h"
+#include "files/Recovery.h"
+#include "script/DrivenWindow.h"
 
 namespace {
 
@@ -71,6 +73,11 @@ bool parse(int argc, char** argv, Options& o) {
 
 int main(int argc, char** argv) {
   qp::keepPictureMemoryForReuse();
+  // Hidden: the window driven by a script, recovery copy and all (tests crash it on purpose).
+  if (argc == 3 && !std::strcmp(argv[1], "--drive")) {
+    QApplication app(argc, argv);
+    return qp::script::runDrivenWindow(QString::fromLocal8Bit(argv[2]));
+  }
   Options o;
   if (!parse(argc, argv, o)) return usage();
   const bool headless = o.mode == Options::Demo || o.mode == Options::Monkey || (o.mode == Options::Script && !o.show);
@@ -108,6 +115,9 @@ int main(int argc, char** argv) {
   program.start();
   view.sync();
   view.window().show();
+  // The canvas is kept safe from a crash from here on; a clean exit removes the copy.
+  qp::RecoveryKeeper recovery(program.s, qp::recoveryFolder(), qp::recoveryDelayMs());
+  recovery.offer();
   if (program.quitRequested()) return 0;
   return QApplication::exec();
 }
