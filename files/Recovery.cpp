@@ -110,8 +110,7 @@ void RecoveryKeeper::offer() {
     s_.m.CurrentFile = "Untitled.bmp";
     f.PicPaint.Picture = picture;
     f.pPix.Picture = f.PicPaint.Image;
-    SetTitle(s_);
-    Form_Resize(s_);
+    Form_Resize(s_);  // sets the title too
   });
 }
 

@@ -2,6 +2,7 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <utility>
 
 #include "files/PictureFiles.h"
 #include "files/Recovery.h"
@@ -95,10 +96,13 @@ TEST_F(KeeperTest, TheOfferIsMadeOnceAndEitherAnswerRenamesTheCopy) {
     restarted.offer();
     restarted.offer();
     ASSERT_EQ(headless.msgbox.shown().size(), 1u);
-    EXPECT_EQ(headless.msgbox.shown()[0].buttons & 7, vbYesNo);
+    EXPECT_EQ(headless.msgbox.shown()[0].buttons, vbYesNo + vbQuestion);
     const QImage now = f().PicPaint.Image;
     EXPECT_EQ(now.size(), (a.comesBack ? left : before).size());
     EXPECT_EQ(now.convertToFormat(QImage::Format_RGB32), a.comesBack ? left : before);
+    if (a.comesBack) {
+      EXPECT_TRUE(f().Caption.get().endsWith("Untitled.bmp   40 x 30")) << f().Caption.get().toStdString();
+    }
     EXPECT_EQ(LoadPicture(dir.filePath("recovery-previous.bmp")), left);
     EXPECT_EQ(QDir(dir.path()).entryList({"recovery.bmp*"}, QDir::Files | QDir::Hidden), QStringList());
   }
@@ -120,6 +124,16 @@ TEST(RecoveryFolder, StateHomeElseTheHomesStateFolder) {
   }
   qputenv("XDG_STATE_HOME", oldState);
   qputenv("HOME", oldHome);
+}
+
+TEST(RecoveryDelay, TestsMayShortenItWithinReason) {
+  const std::pair<const char*, int> cases[] = {{"", 3000}, {"50", 50}, {"1", 1}, {"0", 3000},
+                                               {"60000", 60000}, {"60001", 3000}, {"soon", 3000}};
+  for (const auto& [text, ms] : cases) {
+    qputenv("QUILLORA_RECOVERY_DELAY_MS", text);
+    EXPECT_EQ(recoveryDelayMs(), ms) << text;
+  }
+  qunsetenv("QUILLORA_RECOVERY_DELAY_MS");
 }
 
 }  // namespace
