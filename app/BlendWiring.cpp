@@ -24,7 +24,7 @@ void wireImageBlender(Session& s) {
   b.vVal.Change = [&s] { Blend_vVal_Change(s); };
   b.mLd1.Click = [&s] { Blend_mLoad_Click(s, 1); };
   b.mLd2.Click = [&s] { Blend_mLoad_Click(s, 2); };
-  wireWorkshopExplorer(b.explorer);
+  wireWorkshopExplorer(b.explorer, s.f.PicPaint.BackColor);
   b.explorer.cKay.Click = [&s] { Blend_cKay_Click(s); };
   b.explorer.cCancel.Click = [&b] { b.fX.Visible = false; };
   b.mPaste.Click = [&s] { Blend_mPaste_Click(s); };

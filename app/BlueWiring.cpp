@@ -32,7 +32,7 @@ void wireTransparencyTool(Session& s) {
   b.mInstrct.Click = [&s] { Blue_mInstrct_Click(s); };
   b.Label1.Click = [&s] { Blue_Label1_Click(s); };
 
-  wireWorkshopExplorer(b.explorer);
+  wireWorkshopExplorer(b.explorer, s.f.PicPaint.BackColor);
   b.explorer.cKay.Click = [&s] { Blue_cKay_Click(s); };
   b.explorer.cCancel.Click = [&s] { Blue_cCancel_Click(s); };
 

@@ -26,7 +26,7 @@ void wireTileSetter(Session& s) {
   t.opTilez(1).Click = [&t] { t.TwoImages = -1; };
   t.cTile.Click = [&s] { cTile_Click(s); };
   t.tGo.Timer_ = [&s] { tGo_Timer(s); };
-  wireWorkshopExplorer(t.explorer);
+  wireWorkshopExplorer(t.explorer, s.f.PicPaint.BackColor);
   t.explorer.cKay.Click = [&s] { Tile_cKay_Click(s); };
   t.explorer.cCancel.Click = [&t] { t.fX.Visible = false; };
   t.cBG.Click = [&s] { cBG_Click(s); };

@@ -20,6 +20,8 @@
 #include "script/CommandLine.h"
 #include "app/Program.h"
 #include "app/OpenFiles.h"
+#include "files/Recovery.h"
+#include "script/DrivenWindow.h"
 
 namespace {
 
@@ -78,6 +80,11 @@ bool parse(int argc, char** argv, Options& o) {
 
 int main(int argc, char** argv) {
   qp::keepPictureMemoryForReuse();
+  // Hidden: the window driven by a script, recovery copy and all (tests crash it on purpose).
+  if (argc == 3 && !std::strcmp(argv[1], "--drive")) {
+    QApplication app(argc, argv);
+    return qp::script::runDrivenWindow(QString::fromLocal8Bit(argv[2]));
+  }
   Options o;
   if (!parse(argc, argv, o)) return usage();
   const bool headless = o.mode == Options::Demo || o.mode == Options::Monkey || (o.mode == Options::Script && !o.show);
@@ -116,6 +123,9 @@ int main(int argc, char** argv) {
   program.start();
   view.sync();
   view.window().show();
+  // The canvas is kept safe from a crash from here on; a clean exit removes the copy.
+  qp::RecoveryKeeper recovery(program.s, qp::recoveryFolder(), qp::recoveryDelayMs());
+  recovery.offer();
   if (program.quitRequested()) return 0;
   // Once the window is up, so that a message about the picture shows over it.
   QTimer::singleShot(0, [&] {

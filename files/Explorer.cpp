@@ -23,7 +23,7 @@ void Explorer_File1_MouseDown(Session& s, int Button) {
   trap([&] {
     const QString name = f.File1.FileName();
     if (name.isEmpty()) return;
-    f.imPre.Picture = LoadPicture(joinPath(f.File1.Path, name));
+    f.imPre.Picture = LoadPicture(joinPath(f.File1.Path, name), f.PicPaint.BackColor);
     f.imPre.touch();
   });
 }

@@ -3,6 +3,7 @@
 #include "files/FileDialog.h"
 
 #include "core/Layout.h"
+#include "files/ExportPng.h"
 #include "files/PictureFiles.h"
 #include "files/SavePath.h"
 #include "ui/Windows.h"
@@ -66,7 +67,7 @@ const SaveKind* saveKindOf(const QString& caption) {
 void loadForStretcher(Session& s, const QString& path) {
   if (!s.windows) return;
   frmStretch& w = s.windows->stretch;
-  w.pTemp.Picture = LoadPicture(path);
+  w.pTemp.Picture = LoadPicture(path, s.f.PicPaint.BackColor);
   w.mSave.Enabled = true;
   w.pTemp.Move(w.pLO.Left, w.pLO.Top);
   w.pTemp.Visible = true;
@@ -101,7 +102,7 @@ bool loadBranch(Session& s, frmFile& d, const QString& caption) {
   s.m.CurrentFile = "";
   if (d.File1.FileName().isEmpty()) return false;  // a typed name alone opens nothing
   if (caption == FileMode::OpenImage) {
-    const QImage picture = LoadPicture(path);
+    const QImage picture = LoadPicture(path, f.PicPaint.BackColor);
     f.PicPaint.Picture = picture;
     f.pPix.Picture = picture;
     s.m.CurrentFile = path;
@@ -127,7 +128,8 @@ void frmFile_Load(Session& s) {
     const QString caption = d->Caption;
     // Both remembered places are read first: choosing the drive writes the folder memory.
     const QString drive = f.lDrive.Caption, folder = f.lDir.Caption;
-    if ((caption == FileMode::OpenImage || caption == FileMode::SaveImage) && !folder.isEmpty()) {
+    const bool canvasFolder = caption == FileMode::OpenImage || caption == FileMode::SaveImage || caption == FileMode::ExportPng;
+    if (canvasFolder && !folder.isEmpty()) {
       d->Drive1.Drive = drive;
       d->Dir1.Path = folder;
     }
@@ -178,7 +180,7 @@ void frmFile_File1_Click(Session& s) {
     if (name.isEmpty()) return;
     d->TxtFile.Text = name;
     // A file that cannot be decoded keeps the old preview; the name stays chosen all the same.
-    d->imPreview.Picture = LoadPicture(joinPath(d->File1.Path, name));
+    d->imPreview.Picture = LoadPicture(joinPath(d->File1.Path, name), s.f.PicPaint.BackColor);
     d->imPreview.touch();
   });
 }
@@ -191,6 +193,7 @@ void cmdOK_Click(Session& s) {
     bool close = true;
     if (caption == FileMode::OpenImage || caption == FileMode::LoadStretch) close = loadBranch(s, *d, caption);
     else if (const SaveKind* kind = saveKindOf(caption)) close = saveBranch(s, *d, *kind);
+    else if (caption == FileMode::ExportPng) close = exportBranch(s, *d);
     if (!close) return;
     SetTitle(s);
     d->Hide();

@@ -20,6 +20,7 @@ inline const QString SaveCropped = "Save Cropped Image As...";
 inline const QString SaveBlended = "Save Blended Image As...";
 inline const QString SaveBlueScreen = "Save BlueScreen Image As...";
 inline const QString SaveMask = "Save Image As Mask...";
+inline const QString ExportPng = "Export as PNG...";
 }  // namespace FileMode
 
 // The file window of this session; null in a session built without it.

@@ -40,7 +40,7 @@ void PicPaint_OLEDragDrop(Session& s, const QStringList& Files) {
   trap([&] {
     TakeUndoSnapshot(s);
     if (Files.isEmpty()) raiseError(RuntimeError::InvalidCall, "Invalid procedure call");
-    f.PicPaint.Picture = LoadPicture(Files.front());
+    f.PicPaint.Picture = LoadPicture(Files.front(), f.PicPaint.BackColor);
     s.m.CurrentFile = Files.front();
     f.pPix.Picture = f.PicPaint.Image;
     SetTitle(s);

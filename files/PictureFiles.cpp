@@ -15,6 +15,7 @@
 #include "platform/Errors.h"
 #include "platform/FileNames.h"
 #include "platform/PictureDecode.h"
+#include "surface/Raster.h"
 
 namespace qp {
 
@@ -52,7 +53,7 @@ void limitDecoderMemory() {
 namespace {
 // Reads the whole file in one go: the decoders then take their many small reads from memory, where
 // reading them one by one from the file cost a third as much again as the decoding.
-QImage loadAccepted(const QString& path, const QList<QByteArray>& accepted) {
+QImage loadAccepted(const QString& path, const QList<QByteArray>& accepted, Colour backdrop) {
   if (path.isEmpty()) return QImage();
   requirePlainFile(path);
   limitDecoderMemory();
@@ -73,24 +74,26 @@ QImage loadAccepted(const QString& path, const QList<QByteArray>& accepted) {
   if (file.size() > kMaxPictureFileBytes) invalidPicture();
   const QByteArray data = file.readAll();
   file.close();
-  const QImage picture = DecodePicture(data, accepted, {kMaxPicturePixels, kMaxPictureSide});
+  const QImage picture = DecodePicture(data, accepted, {kMaxPicturePixels, kMaxPictureSide}, raster::toPixel(backdrop));
   if (picture.isNull()) invalidPicture();
   return picture;
 }
 }  // namespace
 
-QImage LoadPicture(const QString& path) {
-  // Nothing but these two formats is ever decoded, whatever the name says.
-  return loadAccepted(path, {"bmp", "jpeg"});
+QImage LoadPicture(const QString& path, Colour backdrop) {
+  // Nothing but these formats is ever decoded, whatever the name says.
+  return loadAccepted(path, {"bmp", "jpeg", "png"}, backdrop);
 }
 
-QImage LoadAnyPicture(const QString& path) { return loadAccepted(path, {}); }
+QImage LoadAnyPicture(const QString& path, Colour backdrop) { return loadAccepted(path, {}, backdrop); }
 
-void SavePicture(const QImage& picture, const QString& path) {
+void SavePicture(const QImage& picture, const QString& path) { SavePicture(picture, path, "bmp"); }
+
+void SavePicture(const QImage& picture, const QString& path, const char* format) {
   if (picture.isNull()) raiseError(RuntimeError::InvalidPicture, "Invalid picture");
   QSaveFile file(path);
   if (!file.open(QIODevice::WriteOnly)) raiseError(kPathFileAccessError, "Path/File access error");
-  QImageWriter writer(&file, "bmp");
+  QImageWriter writer(&file, format);
   if (!writer.write(picture)) {
     file.cancelWriting();
     raiseError(kPathFileAccessError, "Path/File access error");

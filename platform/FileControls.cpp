@@ -141,6 +141,10 @@ void FileListBox::Refresh() {
   Clear();
   // The pattern is case-blind: "*.bmp" lists "SKY.BMP" too.
   const QRegularExpression fits = QRegularExpression::fromWildcard(Pattern.get(), Qt::CaseInsensitive);
+  // The program's file lists are picture lists: a pattern that chooses bitmaps or JPEGs lists the
+  // PNG files beside them, which every picture path opens too.
+  const bool pictures = Pattern.get().endsWith("bmp", Qt::CaseInsensitive) || Pattern.get().endsWith("jpg", Qt::CaseInsensitive);
+  const QRegularExpression png = QRegularExpression::fromWildcard(u"*.png", Qt::CaseInsensitive);
   QStringList names;
   // The folder is read by its bytes, so that a name that is not UTF-8 is listed too. Each entry is
   // looked at through any link: only what is (or leads to) a plain file is listed, never a folder,
@@ -153,7 +157,8 @@ void FileListBox::Refresh() {
       if (::fstatat(::dirfd(dir), e->d_name, &st, 0) != 0 || !S_ISREG(st.st_mode)) continue;
       const QString name = nameFromBytes(raw);
       // Matched as shown: the kept bytes are not text the pattern matcher takes.
-      if (fits.match(readableName(name)).hasMatch()) names << name;
+      const QString shown = readableName(name);
+      if (fits.match(shown).hasMatch() || (pictures && png.match(shown).hasMatch())) names << name;
     }
     ::closedir(dir);
   }

@@ -5,7 +5,9 @@
 #include "platform/PictureDecode.h"
 
 #include <QBuffer>
+#include <QColor>
 #include <QImageReader>
+#include <QPainter>
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
@@ -151,9 +153,20 @@ bool withinLimits(QSize size, PictureLimits limits) {
          static_cast<long long>(size.width()) * size.height() <= limits.maxPixels;
 }
 
+// A picture with transparency as it shows on a backdrop of one colour.
+QImage layOnBackdrop(const QImage& picture, QRgb backdrop) {
+  QImage flat(picture.size(), QImage::Format_RGB32);
+  if (flat.isNull()) return flat;
+  flat.fill(backdrop | 0xFF000000);
+  QPainter painter(&flat);
+  painter.drawImage(0, 0, picture);
+  return flat;
+}
+
 }  // namespace
 
-QImage DecodePicture(const QByteArray& data, const QList<QByteArray>& accepted, PictureLimits limits) {
+QImage DecodePicture(const QByteArray& data, const QList<QByteArray>& accepted, PictureLimits limits,
+                     QRgb backdrop) {
   QByteArray bytes = data;  // QBuffer wants a non-const array; this shares, it does not copy
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::ReadOnly);
@@ -177,12 +190,15 @@ QImage DecodePicture(const QByteArray& data, const QList<QByteArray>& accepted, 
     const QImage::Format kind = reader.imageFormat();
     if (claimed.isValid() && kind != QImage::Format_Invalid) {
       picture = QImage(claimed, kind);
-      if (!picture.isNull()) picture.fill(0);
+      // Opaque black, so that what a short file leaves unwritten is not taken for transparency.
+      if (picture.hasAlphaChannel()) picture.fill(QColor(Qt::black));
+      else if (!picture.isNull()) picture.fill(0);
     }
     if (!reader.read(&picture)) return QImage();
   }
   if (picture.isNull() || !withinLimits(picture.size(), limits)) return QImage();
-  if (picture.format() != QImage::Format_RGB32) picture = picture.convertToFormat(QImage::Format_RGB32);
+  if (picture.hasAlphaChannel()) picture = layOnBackdrop(picture, backdrop);
+  else if (picture.format() != QImage::Format_RGB32) picture = picture.convertToFormat(QImage::Format_RGB32);
   if (picture.isNull()) return picture;
   if (bmp && bmp->compression != 1 && bmp->compression != 2) blackenRowsNotGiven(picture, data, *bmp);
   return picture;

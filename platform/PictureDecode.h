@@ -19,8 +19,11 @@ struct PictureLimits {
 constexpr PictureLimits kPictureLimits{64LL * 1024 * 1024, 16384};
 
 // The picture in data, as 32-bit RGB, or a null image when data is not a picture in one of the
-// accepted formats (Qt's format names, "bmp", "jpeg"; an empty list accepts every format Qt reads)
-// or is larger than the limits allow.
-QImage DecodePicture(const QByteArray& data, const QList<QByteArray>& accepted, PictureLimits limits);
+// accepted formats (Qt's format names, "bmp", "jpeg", "png"; an empty list accepts every format Qt
+// reads) or is larger than the limits allow. A picture with transparency is laid on `backdrop`
+// (0xAARRGGBB), as it would look on a canvas of that colour; a pixel a short file does not give is
+// black all the same, whatever the backdrop.
+QImage DecodePicture(const QByteArray& data, const QList<QByteArray>& accepted, PictureLimits limits,
+                     QRgb backdrop = 0xFF000000);
 
 }  // namespace qp

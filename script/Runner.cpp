@@ -221,7 +221,7 @@ Runner::Outcome Runner::clipboard(const Command& c) {
     // Through the program's own loading: a pipe or a device is refused, not waited on, and a short
     // file's missing pixels are black.
     QImage picture;
-    trap([&] { picture = LoadAnyPicture(inputFile(c.text)); });
+    trap([&] { picture = LoadAnyPicture(inputFile(c.text), p_.f.PicPaint.BackColor); });
     if (picture.isNull()) return error(c, QString("cannot read a picture from %1").arg(c.text));
     rt_.clipboard.SetData(picture);
     return Outcome::Done;

@@ -110,7 +110,7 @@ void Stretch_mLoad_Click(Session& s) {
 void Stretch_pLO_OLEDragDrop(Session& s, const QStringList& Files) {
   if (Files.isEmpty()) return;
   // A file that cannot be decoded leaves the old source.
-  trap([&] { LoadStretchSource(s, LoadPicture(Files.first())); });
+  trap([&] { LoadStretchSource(s, LoadPicture(Files.first(), s.f.PicPaint.BackColor)); });
 }
 
 void mClip_Click(Session& s) {

@@ -19,16 +19,16 @@ QString explorerSelection(const WorkshopExplorer& x) {
   return name.isEmpty() ? QString() : joinPath(x.File1.Path, name);
 }
 
-void wireWorkshopExplorer(WorkshopExplorer& x) {
+void wireWorkshopExplorer(WorkshopExplorer& x, const Prop<Colour>& backdrop) {
   x.Drive1.Change = [&x] { trap([&] { x.Dir1.Path = x.Drive1.Drive.get(); }); };
   x.Dir1.Change = [&x] { trap([&] { x.File1.Path = x.Dir1.Path.get(); }); };
-  x.File1.MouseDown = [&x](int button, int, Single, Single) {
+  x.File1.MouseDown = [&x, &backdrop](int button, int, Single, Single) {
     if (button != vbLeftButton) return;
     // A file that cannot be decoded leaves the preview as it was.
     trap([&] {
       const QString path = explorerSelection(x);
       if (path.isEmpty()) return;
-      x.preview.Picture = LoadPicture(path);
+      x.preview.Picture = LoadPicture(path, backdrop);
       x.preview.touch();
     });
   };

@@ -42,11 +42,11 @@ TEST(PictureFiles, FailuresRaiseTheLoadErrorsTheHandlersTrap) {
   EXPECT_EQ(errorOf(dir.filePath("missing.bmp")), RuntimeError::FileNotFound);
   QDir(dir.path()).mkdir("folder.bmp");
   EXPECT_EQ(errorOf(dir.filePath("folder.bmp")), RuntimeError::InvalidPicture);
-  QFile png(dir.filePath("png.bmp"));
-  ASSERT_TRUE(png.open(QIODevice::WriteOnly));
-  png.write(encode(patternPicture(4, 4), "PNG"));  // only bitmaps and JPEGs are ever decoded
-  png.close();
-  EXPECT_EQ(errorOf(dir.filePath("png.bmp")), RuntimeError::InvalidPicture);
+  QFile ppm(dir.filePath("ppm.bmp"));
+  ASSERT_TRUE(ppm.open(QIODevice::WriteOnly));
+  ppm.write(encode(patternPicture(4, 4), "PPM"));  // only bitmaps, JPEGs and PNGs are ever decoded
+  ppm.close();
+  EXPECT_EQ(errorOf(dir.filePath("ppm.bmp")), RuntimeError::InvalidPicture);
   QFile huge(dir.filePath("huge.bmp"));
   ASSERT_TRUE(huge.open(QIODevice::WriteOnly));
   huge.write(bitmapBytes(4, 4, 60000, 60000));  // refused from its header, before any decoding

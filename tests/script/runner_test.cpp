@@ -3,6 +3,7 @@
 
 #include <QBuffer>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QImage>
 #include <QTemporaryDir>
@@ -142,6 +143,25 @@ TEST_F(ScriptRun, AModalWindowTakesTheNextLinesUntilItHides) {
   EXPECT_EQ(run("menu mnuSave\nwait 10"), 0);
   EXPECT_EQ(returnedAt, session.rt().loop.now());
   EXPECT_TRUE(d.Visible);
+}
+
+// A see-through PNG comes onto the clipboard as it would show on the canvas; a cut one is refused.
+TEST_F(ScriptRun, AClipboardPngIsLaidOnTheCanvasColour) {
+  session.program().f.PicPaint.BackColor = 0x3060C0;
+  QImage pic(2, 1, QImage::Format_ARGB32);
+  pic.setPixel(0, 0, qRgba(255, 255, 255, 0));
+  pic.setPixel(1, 0, qRgba(0, 255, 0, 255));
+  const QString in = dir.filePath("see.png"), cut = dir.filePath("cut.png");
+  pic.save(in);
+  EXPECT_EQ(run("clipboard load " + in), 0);
+  const QImage got = session.clipboard().GetData();
+  EXPECT_EQ(got.pixel(0, 0), qRgb(0xC0, 0x60, 0x30));
+  EXPECT_EQ(got.pixel(1, 0), qRgb(0, 255, 0));
+  QFile whole(in), part(cut);
+  ASSERT_TRUE(whole.open(QIODevice::ReadOnly) && part.open(QIODevice::WriteOnly));
+  part.write(whole.readAll().chopped(20));
+  part.close();
+  EXPECT_EQ(run("clipboard load " + cut), 2);
 }
 
 TEST_F(ScriptRun, FilesAndTheClipboard) {

@@ -1,0 +1,110 @@
+// The real program in its window, killed at chosen moments and started again.
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <csignal>
+
+namespace qp::test {
+namespace {
+
+// Starts `quillora --drive SCRIPT` with its state folder in dir.
+class ProgramRun {
+ public:
+  ProgramRun(const QTemporaryDir& dir, const QString& script, int delayMs) {
+    const QString file = QDir(dir.path()).filePath("run.qsc");
+    QFile f(file);
+    f.open(QIODevice::WriteOnly | QIODevice::Truncate);
+    f.write(script.toUtf8());
+    f.close();
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert("XDG_STATE_HOME", dir.path());
+    env.insert("QT_QPA_PLATFORM", "offscreen");
+    env.insert("QUILLORA_RECOVERY_DELAY_MS", QString::number(delayMs));
+    p_.setProcessEnvironment(env);
+    p_.setWorkingDirectory(dir.path());
+    p_.start(QUILLORA_BIN, {"--drive", file});
+  }
+  ~ProgramRun() {
+    if (p_.state() != QProcess::NotRunning) kill();
+  }
+  // Reads the program's output until a line holds `text`; false when it ends or a minute passes.
+  bool waitFor(const QString& text) {
+    for (int i = 0; i < 600 && !out_.contains(text); ++i) {
+      if (!p_.waitForReadyRead(100) && p_.state() == QProcess::NotRunning) break;
+      out_ += QString::fromUtf8(p_.readAllStandardOutput());
+    }
+    return out_.contains(text);
+  }
+  void kill() {
+    ::kill(static_cast<pid_t>(p_.processId()), SIGKILL);
+    p_.waitForFinished(60000);
+  }
+  // Waits for a normal end: the output and the exit status.
+  int finish() {
+    p_.waitForFinished(120000);
+    out_ += QString::fromUtf8(p_.readAllStandardOutput());
+    return p_.exitStatus() == QProcess::NormalExit ? p_.exitCode() : -1;
+  }
+  const QString& out() const { return out_; }
+
+ private:
+  QProcess p_;
+  QString out_;
+};
+
+const char* const kStroke =
+    "menu mPencil\npress PicPaint 10 20\nmove PicPaint 60 40\nmove PicPaint 90 80\nrelease PicPaint 90 80\n"
+    "save PicPaint drawn.bmp\n";
+
+struct Moment {
+  const char* name;
+  int delayMs;          // the quiet time before a copy is written
+  const char* killAt;   // the output line after which the program is killed
+  bool plantCutWrite;   // a temporary file beside the copy, as a kill in the middle of a write leaves
+  bool offered;         // the next start offers the picture back
+};
+
+TEST(Crash, AKilledWindowOffersItsLastCopyOnceAndOnlyWhenThereIsOne) {
+  const Moment moments[] = {
+      {"after the copy was written", 20, "recovery written", false, true},
+      {"in the middle of a later write", 20, "recovery written", true, true},
+      {"before any copy was written", 60000, "PaintMode", false, false},
+  };
+  for (const Moment& m : moments) {
+    SCOPED_TRACE(m.name);
+    QTemporaryDir dir;
+    const QString copy = dir.filePath("quillora/recovery.bmp");
+    {
+      ProgramRun first(dir, QString(kStroke) + "print PaintMode\nwait 600000\n", m.delayMs);
+      ASSERT_TRUE(first.waitFor(m.killAt)) << first.out().toStdString();
+      first.kill();
+    }
+    const QImage drawn(dir.filePath("drawn.bmp"));
+    ASSERT_FALSE(drawn.isNull());
+    EXPECT_EQ(QFile::exists(copy), m.offered);
+    if (m.plantCutWrite) {
+      QFile cut(copy + ".a1B2c3");
+      cut.open(QIODevice::WriteOnly);
+      cut.write("BM\x36\x00");  // the start of a bitmap, and nothing more
+    }
+    ProgramRun second(dir, "save PicPaint back.bmp\n", m.delayMs);
+    EXPECT_EQ(second.finish(), 0) << second.out().toStdString();
+    EXPECT_EQ(second.out().contains("msgbox \"Recover picture\""), m.offered);
+    // Yes is the first button, which the driven window answers: the picture comes back whole.
+    if (m.offered) {
+      EXPECT_EQ(QImage(dir.filePath("back.bmp")), drawn);
+    }
+    EXPECT_EQ(QDir(dir.filePath("quillora")).entryList({"recovery.bmp*"}, QDir::Files | QDir::Hidden),
+              QStringList());  // a clean exit leaves no copy and no cut write behind
+    ProgramRun third(dir, "", m.delayMs);
+    EXPECT_EQ(third.finish(), 0);
+    EXPECT_FALSE(third.out().contains("Recover picture")) << "offered twice";
+  }
+}
+
+}  // namespace
+}  // namespace qp::test
