@@ -2,6 +2,7 @@
 #include "app/Wiring.h"
 #include "core/Edit.h"
 #include "files/Explorer.h"
+#include "files/ExportPng.h"
 #include "files/FileDialog.h"
 #include "files/OpenSave.h"
 #include "ui/Windows.h"
@@ -13,6 +14,7 @@ void wireFiles(Session& s) {
   frmCanvas& f = s.f;
   f.mnuOpen.Click = [&s] { mnuOpen_Click(s); };
   f.mnuSave.Click = [&s] { mnuSave_Click(s); };
+  f.mExportPng.Click = [&s] { mExportPng_Click(s); };
   f.PicPaint.OLEDragDrop = [&s](const QStringList& files, int, int, Single, Single) {
     PicPaint_OLEDragDrop(s, files);
   };

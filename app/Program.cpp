@@ -1,16 +1,14 @@
 #include "app/Program.h"
 
 #include "app/Wiring.h"
-#include "files/ExportPng.h"
 #include "platform/EventLoop.h"
 #include "tools/Tools.h"
 
 namespace qp {
 
 Program::Program(Runtime& rt, std::function<void()> quit)
-    : f(rt), w(rt), s{m, f, rt, tools, &w}, mExportPng(&f, &f.mnuFile, "mExportPng", "Export as PNG..."), quit_(std::move(quit)) {
+    : f(rt), w(rt), s{m, f, rt, tools, &w}, quit_(std::move(quit)) {
   registerTools(tools);
-  mExportPng.Click = [this] { mExportPng_Click(s); };
   wireCanvas(s, [this] {
     quitRequested_ = true;
     s.rt.loop.close();  // a drawing that waits on the loop stops there

@@ -27,7 +27,6 @@ class Program {
   Windows w;  // the other windows: the file window and the layout preview
   ToolTable tools;
   Session s;
-  Menu mExportPng;  // File > Export as PNG..., the last item of the File menu
 
  private:
   std::function<void()> quit_;

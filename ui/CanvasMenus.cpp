@@ -7,6 +7,7 @@ CanvasMenus::CanvasMenus(Form& f)
       mnuNew(&f, &mnuFile, "mnuNew", "New (W)"),
       mnuOpen(&f, &mnuFile, "mnuOpen", "Open (O)"),
       mnuSave(&f, &mnuFile, "mnuSave", "Save (S)"),
+      mExportPng(&f, &mnuFile, "mExportPng", "Export as PNG..."),
       mFileSep(&f, &mnuFile, "mFileSep", "-"),
       mnuExit(&f, &mnuFile, "mnuExit", "Exit (Esc)"),
       mnuEdit(&f, nullptr, "mnuEdit", "Edit"),

@@ -9,7 +9,7 @@ namespace qp {
 struct CanvasMenus {
   explicit CanvasMenus(Form& f);
 
-  Menu mnuFile, mnuNew, mnuOpen, mnuSave, mFileSep, mnuExit;
+  Menu mnuFile, mnuNew, mnuOpen, mnuSave, mExportPng, mFileSep, mnuExit;
   Menu mnuEdit, mnuUndo, mCopy, mnuPaste, mClear, mSendStash, mGet;
   Menu mToolz;
   Menu mFreehand, mPencil, mShadow, mGpen, mAir, mEr, mSaw, mCrzyPen;

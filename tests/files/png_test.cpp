@@ -98,7 +98,7 @@ TEST_F(PngTest, AnExportReloadsAsTheCanvasAndLeavesSaveAndTheCanvasNameAlone) {
   move(900, 600);
   release(900, 600);
   m().CurrentFile = "drawing.bmp";
-  choose(program->mExportPng);
+  choose(program->f.mExportPng);
   ASSERT_TRUE(dialog().Visible);
   dialog().Dir1.Path = folder.path();
   dialog().TxtFile.Text = "copy";
@@ -121,7 +121,7 @@ TEST_F(PngTest, AnExportToAReadOnlyFolderFailsAndSaysSoWithThePictureKept) {
   QString locked = at("locked");
   QFile::setPermissions(locked, QFileDevice::ReadOwner | QFileDevice::ExeOwner);
   if (QFile probe(locked + "/probe"); probe.open(QIODevice::WriteOnly)) locked = "/proc";
-  choose(program->mExportPng);
+  choose(program->f.mExportPng);
   dialog().Dir1.Path = locked;
   dialog().TxtFile.Text = "copy.png";
   headless.msgbox.clear();
