@@ -46,33 +46,24 @@ TEST_F(RowHandlers, EachBarWritesItsLabelAndToolTip) {
 }
 
 TEST_F(RowHandlers, BarsFeedTheirVariables) {
+  struct Case { const char* menu; int row, value; std::function<int()> read; int expected; };
+  const Case all[] = {
+      {"mShadow", 1, 200, [this] { return int(m().StepSize); }, 200},
+      {"mEr", 1, 300, [this] { return f().shErSize.Height.get(); }, 300},
+      {"mBrushes", 1, 27, [this] { return int(f().BrushFigure); }, 27},
+      {"mCrazyLn", 1, 12, [this] { return int(f().CrazyEquation); }, 12},
+      {"mSpr3", 1, 36, [this] { return int(m().SpiralStep); }, 36},
+      {"mBallz", 4, 3, [this] { return int(m().ColorOption); }, 3},
+      {"mGpen", 1, 30, [this] { return int(f().AutoDrawSpeed); }, 30},
+  };
+  for (const Case& c : all) {
+    choose(item(f(), c.menu));
+    f().valueBar(c.row).Value = c.value;
+    EXPECT_EQ(c.read(), c.expected) << c.menu;
+  }
   choose(f().mAir);
   f().vVal1.arrowUp();  // the up arrow raises the value
   EXPECT_EQ(int(f().AirSpread), 6);
-  choose(f().mShadow);
-  f().vVal1.Value = 200;
-  EXPECT_EQ(int(m().StepSize), 200);
-  choose(f().mEr);
-  f().vVal1.Value = 300;
-  EXPECT_EQ(f().shErSize.Width.get(), 300);
-  EXPECT_EQ(f().shErSize.Height.get(), 300);
-  choose(f().mBrushes);
-  f().vVal1.Value = 27;
-  EXPECT_EQ(int(f().BrushFigure), 27);
-  EXPECT_EQ(f().lStats.Caption.get(), "Stick man");
-  choose(f().mCrazyLn);
-  f().vVal1.Value = 12;
-  EXPECT_EQ(int(f().CrazyEquation), 12);
-  choose(f().mSpr3);
-  f().vVal1.Value = 36;
-  EXPECT_EQ(int(m().SpiralStep), 36);
-  choose(f().mBallz);
-  f().vVal4.Value = 3;
-  EXPECT_EQ(int(m().ColorOption), 3);
-  EXPECT_FALSE(f().lVal4.Caption.get().isEmpty());
-  choose(f().mGpen);
-  f().vVal1.Value = 30;
-  EXPECT_EQ(int(f().AutoDrawSpeed), 30);
   // The drag of the thumb reports through Scroll before the drop.
   choose(f().mSpr3);
   f().vVal1.dragTo(48);
@@ -129,8 +120,12 @@ TEST_F(RowHandlers, ADimRowClearsItsTipAndDoesNothingElse) {
   EXPECT_EQ(f().Shadow(1).BorderColor.get(), kDimFrame);
 }
 
-TEST_F(RowHandlers, CrazyPencilSkipsElevenAndKeepsItsMixing) {
-  choose(f().mCrzyPen);
+TEST_F(RowHandlers, CrazyPencilMapsTheBarOnlyWhenItMovesAndSkipsEleven) {
+  choose(f().mCrzyPen);  // the bar moves from the pencil's 4 to 13: the map gives 15
+  EXPECT_EQ(f().PicPaint.DrawMode.get(), 15);
+  choose(f().mCrzyPen);  // the bar stays at 13: no Change, the entry's 13 stands
+  EXPECT_EQ(f().PicPaint.DrawMode.get(), 13);
+  EXPECT_EQ(f().lVal1.Caption.get(), "DrawMode : 13");
   f().vVal1.Value = 12;
   EXPECT_EQ(f().PicPaint.DrawMode.get(), 14);
   f().vVal1.Value = 11;

@@ -123,6 +123,7 @@ TEST_F(Text3DTest, WithCtrlTheAxisBoxStopsAtItsEnds) {
     EXPECT_EQ(f().Px(0).Value, c.px0) << c.x << ", " << c.y;
     EXPECT_EQ(f().Px(1).Value, c.px1) << c.x << ", " << c.y;
   }
+  EXPECT_EQ(f().pCoords.ToolTipText.get(), "X Axis : 25  Y Axis : 13");  // the refused moves ended early
 }
 
 class TextBrushTest : public TextTest {
