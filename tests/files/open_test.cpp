@@ -21,6 +21,8 @@ TEST_F(OpenTest, ASavedDrawingOpensAgainThroughTheExplorerWithTheSamePixels) {
   dialog().cmdOK.raiseClick();
   ASSERT_FALSE(dialog().Visible);
   EXPECT_EQ(m().CurrentFile, at("drawing.bmp"));
+  choose(f().mnuUndo);  // the save was an undo point: the drawing stays
+  EXPECT_EQ(canvas(), drawn);
 
   choose(f().mnuNew);
   EXPECT_NE(canvas(), drawn);
@@ -160,6 +162,17 @@ TEST_F(OpenTest, NewKeepsTheSizeClearsTheLockAndNamesAnUntitledCanvas) {
   EXPECT_EQ(f().Caption.get(), " Quillora Pro - Untitled.bmp - 900 x 700");
 }
 
+TEST_F(OpenTest, OpenAndSaveStopTheToolThatIsRunning) {
+  for (Menu* item : {&f().mnuOpen, &f().mnuSave}) {
+    choose(f().mAir);
+    press(1500, 1500);  // the spray runs while the button is held
+    ASSERT_TRUE(f().tAir.Enabled);
+    choose(*item);
+    EXPECT_FALSE(f().tAir.Enabled) << item->Name().toStdString();
+    if (dialog().Visible) dialog().CmdCancel.raiseClick();
+  }
+}
+
 TEST_F(OpenTest, WhileTheFileWindowIsUpNewOpenAndSaveDoNothing) {
   writePicture("a.bmp", patternPicture(30, 20));
   openThroughExplorer("a.bmp");
@@ -184,6 +197,8 @@ TEST_F(OpenTest, TheLayoutPreviewShowsTheCanvasAtAThird) {
   EXPECT_TRUE(lo.Visible);
   EXPECT_EQ(lo.pLO.pixelWidth(), 213);
   EXPECT_EQ(lo.pLO.pixelHeight(), 160);
+  EXPECT_EQ(lo.Width.get(), 3620);  // the window fits the preview
+  EXPECT_EQ(lo.Height.get(), 3040);
   EXPECT_EQ(lo.iLO.Picture.size(), QSize(640, 480));
   // A snapshot: painting on leaves it, a click on it takes the canvas again.
   press(1500, 1500);
