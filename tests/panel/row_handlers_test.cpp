@@ -24,6 +24,7 @@ TEST_F(RowHandlers, EachBarWritesItsLabelAndToolTip) {
       {"mBrushes", 1, 55, "Scope"},
       {"mBrushes", 2, 7, "Size : 7"},
       {"mBallz", 1, 100, "Limit : 100"},
+      {"mBallz", 2, 25, "Step : 25"},
       {"mBallz", 3, 12, "Aspect : 12"},
       {"mBubble", 1, 5, "Box Size : 5"},
       {"mCrazyLn", 1, 7, "Equation : 7"},
