@@ -1,5 +1,7 @@
 // Moving a value bar or clicking a check box: the row's label and tool tip, the variable it feeds,
-// the state word, and the dim rows that ignore their bars.
+// the state word, and the dim rows that ignore their bars; and Instant Help as the pointer passes
+// over the panel: live rows, dim rows, check boxes and the width controls each write their
+// sentence to lHelp, or nothing.
 #include "core/Panel.h"
 #include "support/ProgramFixture.h"
 
@@ -24,6 +26,7 @@ TEST_F(RowHandlers, EachBarWritesItsLabelAndToolTip) {
       {"mBrushes", 1, 55, "Scope"},
       {"mBrushes", 2, 7, "Size : 7"},
       {"mBallz", 1, 100, "Limit : 100"},
+      {"mBallz", 2, 25, "Step : 25"},
       {"mBallz", 3, 12, "Aspect : 12"},
       {"mBubble", 1, 5, "Box Size : 5"},
       {"mCrazyLn", 1, 7, "Equation : 7"},
@@ -46,33 +49,24 @@ TEST_F(RowHandlers, EachBarWritesItsLabelAndToolTip) {
 }
 
 TEST_F(RowHandlers, BarsFeedTheirVariables) {
+  struct Case { const char* menu; int row, value; std::function<int()> read; int expected; };
+  const Case all[] = {
+      {"mShadow", 1, 200, [this] { return int(m().StepSize); }, 200},
+      {"mEr", 1, 300, [this] { return f().shErSize.Height.get(); }, 300},
+      {"mBrushes", 1, 27, [this] { return int(f().BrushFigure); }, 27},
+      {"mCrazyLn", 1, 12, [this] { return int(f().CrazyEquation); }, 12},
+      {"mSpr3", 1, 36, [this] { return int(m().SpiralStep); }, 36},
+      {"mBallz", 4, 3, [this] { return int(m().ColorOption); }, 3},
+      {"mGpen", 1, 30, [this] { return int(f().AutoDrawSpeed); }, 30},
+  };
+  for (const Case& c : all) {
+    choose(item(f(), c.menu));
+    f().valueBar(c.row).Value = c.value;
+    EXPECT_EQ(c.read(), c.expected) << c.menu;
+  }
   choose(f().mAir);
   f().vVal1.arrowUp();  // the up arrow raises the value
   EXPECT_EQ(int(f().AirSpread), 6);
-  choose(f().mShadow);
-  f().vVal1.Value = 200;
-  EXPECT_EQ(int(m().StepSize), 200);
-  choose(f().mEr);
-  f().vVal1.Value = 300;
-  EXPECT_EQ(f().shErSize.Width.get(), 300);
-  EXPECT_EQ(f().shErSize.Height.get(), 300);
-  choose(f().mBrushes);
-  f().vVal1.Value = 27;
-  EXPECT_EQ(int(f().BrushFigure), 27);
-  EXPECT_EQ(f().lStats.Caption.get(), "Stick man");
-  choose(f().mCrazyLn);
-  f().vVal1.Value = 12;
-  EXPECT_EQ(int(f().CrazyEquation), 12);
-  choose(f().mSpr3);
-  f().vVal1.Value = 36;
-  EXPECT_EQ(int(m().SpiralStep), 36);
-  choose(f().mBallz);
-  f().vVal4.Value = 3;
-  EXPECT_EQ(int(m().ColorOption), 3);
-  EXPECT_FALSE(f().lVal4.Caption.get().isEmpty());
-  choose(f().mGpen);
-  f().vVal1.Value = 30;
-  EXPECT_EQ(int(f().AutoDrawSpeed), 30);
   // The drag of the thumb reports through Scroll before the drop.
   choose(f().mSpr3);
   f().vVal1.dragTo(48);
@@ -129,8 +123,12 @@ TEST_F(RowHandlers, ADimRowClearsItsTipAndDoesNothingElse) {
   EXPECT_EQ(f().Shadow(1).BorderColor.get(), kDimFrame);
 }
 
-TEST_F(RowHandlers, CrazyPencilSkipsElevenAndKeepsItsMixing) {
-  choose(f().mCrzyPen);
+TEST_F(RowHandlers, CrazyPencilMapsTheBarOnlyWhenItMovesAndSkipsEleven) {
+  choose(f().mCrzyPen);  // the bar moves from the pencil's 4 to 13: the map gives 15
+  EXPECT_EQ(f().PicPaint.DrawMode.get(), 15);
+  choose(f().mCrzyPen);  // the bar stays at 13: no Change, the entry's 13 stands
+  EXPECT_EQ(f().PicPaint.DrawMode.get(), 13);
+  EXPECT_EQ(f().lVal1.Caption.get(), "DrawMode : 13");
   f().vVal1.Value = 12;
   EXPECT_EQ(f().PicPaint.DrawMode.get(), 14);
   f().vVal1.Value = 11;
@@ -200,6 +198,56 @@ TEST_F(RowHandlers, BoxesSwitchTheirGroups) {
   f().vVal1.Value = 12;
   EXPECT_EQ(int(f().AutoDrawSpeed), 12);
   EXPECT_EQ(f().lVal1.Caption.get(), "Speed : 12");
+}
+
+TEST_F(RowHandlers, EachPanelControlSpeaksAsThePointerPasses) {
+  struct Case {
+    const char* menu;
+    const char* control;  // passed over
+    int row, value;       // a bar set first (row 0: none)
+    const char* help;     // lHelp afterwards; "-" when the control says nothing
+  };
+  const Case all[] = {
+      {"mAir", "vVal1", 1, 9, "Click arrows to set Spread    Current Spread : 9"},
+      {"mAir", "lVal1", 1, 11, "Click arrows to set Spread    Current Spread : 11"},
+      {"mSngBox", "vVal2", 2, 3, "Click arrows to set Fill Style    Current Fill Style : V-Lines"},
+      {"mEr", "vVal1", 1, 300, "Click arrows to set Eraser size    Curren Eraser size : 30"},
+      {"mCircFx", "vVal2", 2, 60, "Click arrows to set Radius   Current Radius : 60"},
+      {"mSingle", "vVal1", 0, 0, "-"},  // dim until a check box makes the offset matter
+      {"mBubble", "vVal2", 0, 0, "-"},  // dim until Bubblez
+      {"mShadow", "ckVal", 0, 0, "Click to enable Shadow Mode"},
+      {"mSingle", "ckVal2", 0, 0, "Click to enable 3rd Line"},
+      {"mShadow", "ckVal2", 0, 0, "Click to enable third color"},
+      {"mBubble", "ckVal2", 0, 0, "Click to disable random size"},
+      {"mPencil", "ckVal", 0, 0, "Click to enable AutoDraw"},
+      {"mPencil", "vMax", 0, 0, "Click arrows to set Maximum on-the-fly Draw Width    Current Maximum : 24"},
+      {"mPencil", "vMin", 0, 0, "Click arrows to set Minimum on-the-fly Draw Width    Current Minimum : 4"},
+      {"mPencil", "ckHold", 0, 0,
+       "Click to enable Hold (Draw width keeps changing after the ARROW key is released)"},
+  };
+  for (const Case& c : all) {
+    SCOPED_TRACE(std::string(c.menu) + " " + c.control);
+    choose(*dynamic_cast<Menu*>(f().find(c.menu)));
+    if (c.row > 0) f().valueBar(c.row).Value = c.value;
+    f().lHelp.Caption = "before";
+    auto* control = dynamic_cast<VisualControl*>(f().find(c.control));
+    ASSERT_NE(control, nullptr);
+    control->raiseMouseMove(0, 0, 10, 10);
+    EXPECT_EQ(f().lHelp.Caption.get(), QString(c.help == std::string("-") ? "before" : c.help));
+  }
+}
+
+TEST_F(RowHandlers, ACheckBoxTellsWhatTheNextClickDoesAndKeepsItsJoke) {
+  choose(f().mShadow);
+  f().ckVal.raiseClick();  // on
+  f().ckVal.raiseMouseMove(0, 0, 10, 10);
+  EXPECT_EQ(f().lHelp.Caption.get(), "Click to disable Shadow Mode");
+  choose(f().mBubble);
+  f().ckVal2.raiseMouseMove(0, 0, 10, 10);
+  EXPECT_EQ(f().ckVal2.ToolTipText.get(), "That's no moon!  IT'S A SPACESTATION!");
+  EXPECT_EQ(f().lHelp.Caption.get(), "Click to disable random size");
+  f().vPencil.raiseMouseMove(0, 0, 10, 10);
+  EXPECT_TRUE(f().lHelp.Caption.get().startsWith("Click arrows to set Draw Width    Current Draw Width : "));
 }
 
 }  // namespace qp::test

@@ -53,19 +53,17 @@ TEST(ScriptParser, CommentsBlankLinesAndQuotes) {
 }
 
 TEST(ScriptParser, KeysByNameOrCode) {
-  const auto c = parse("key Up\nkey 38 down\nkey F12 up\nkey A\nkey 7\nkey Num3\nkey NumMinus\nkey Esc");
-  ASSERT_EQ(c.size(), 8u);
-  EXPECT_EQ(c[0].key, 38);
-  EXPECT_EQ(c[0].keyAction, KeyAction::DownAndUp);
-  EXPECT_EQ(c[1].key, 38);
-  EXPECT_EQ(c[1].keyAction, KeyAction::Down);
-  EXPECT_EQ(c[2].key, 123);
-  EXPECT_EQ(c[2].keyAction, KeyAction::Up);
-  EXPECT_EQ(c[3].key, 65);
-  EXPECT_EQ(c[4].key, 55);  // the digit key, not code 7
-  EXPECT_EQ(c[5].key, 99);
-  EXPECT_EQ(c[6].key, 109);
-  EXPECT_EQ(c[7].key, 27);
+  struct Case { const char* line; int key; KeyAction action; };
+  for (const Case& k : {Case{"key Up", 38, KeyAction::DownAndUp}, {"key 38 down", 38, KeyAction::Down},
+                        {"key F12 up", 123, KeyAction::Up}, {"key A", 65, KeyAction::DownAndUp},
+                        {"key 7", 55, KeyAction::DownAndUp},  // the digit key, not code 7
+                        {"key Num3", 99, KeyAction::DownAndUp}, {"key NumMinus", 109, KeyAction::DownAndUp},
+                        {"key Esc", 27, KeyAction::DownAndUp}}) {
+    const auto c = parse(k.line);
+    ASSERT_EQ(c.size(), 1u);
+    EXPECT_EQ(c[0].key, k.key) << k.line;
+    EXPECT_EQ(c[0].keyAction, k.action) << k.line;
+  }
   EXPECT_EQ(keyNameForCode(38), "Up");
   EXPECT_EQ(keyNameForCode(112), "F1");
   EXPECT_EQ(keyCodeForName(keyNameForCode(100)), 100);
@@ -92,43 +90,31 @@ TEST(ScriptParser, ReadOutsAndFiles) {
 
 TEST(ScriptParser, BadLinesNameTheirLine) {
   EXPECT_EQ(failure("wait 5\njump PicPaint").line, 2);
-  EXPECT_TRUE(failure("jump PicPaint").message.contains("unknown command"));
-  EXPECT_TRUE(failure("press PicPaint 10").message.contains("too few"));
-  EXPECT_TRUE(failure("press PicPaint ten 10").message.contains("not a number"));
-  EXPECT_TRUE(failure("press PicPaint 1 1 sideways").message.contains("not a button"));
-  EXPECT_TRUE(failure("press PicPaint 1 1 none").message.contains("not a button"));  // only a move has none
-  EXPECT_TRUE(failure("key Hyper").message.contains("not a key"));
-  EXPECT_TRUE(failure("wait -5").message.contains("whole number"));
-  EXPECT_TRUE(failure("set vVal1 4").message.contains("NAME.PROPERTY"));
-  EXPECT_TRUE(failure("clipboard paste").message.contains("clipboard"));
   EXPECT_EQ(failure("expect vVal1.Value").line, 1);
-  EXPECT_TRUE(failure("menu mPencil extra").message.contains("unexpected"));
+  const std::pair<const char*, const char*> cases[] = {
+      {"jump PicPaint", "unknown command"}, {"press PicPaint 10", "too few"},
+      {"press PicPaint ten 10", "not a number"}, {"press PicPaint 1 1 sideways", "not a button"},
+      {"press PicPaint 1 1 none", "not a button"},  // only a move has none
+      {"key Hyper", "not a key"}, {"wait -5", "whole number"}, {"set vVal1 4", "NAME.PROPERTY"},
+      {"clipboard paste", "clipboard"}, {"menu mPencil extra", "unexpected"}};
+  for (const auto& [line, message] : cases) EXPECT_TRUE(failure(line).message.contains(message)) << line;
 }
 
-TEST(ScriptValues, PrintAsTheProgramHoldsThem) {
-  EXPECT_EQ(Value::of(-12).format(), "-12");
-  EXPECT_EQ(Value::colour(0xFF).format(), "0x0000FF");
-  EXPECT_EQ(Value::colour(0x80000005LL).format(), "0x80000005");
-  EXPECT_EQ(Value::colour(-1).format(), "-1");
-  EXPECT_EQ(Value::boolean(true).format(), "-1");
-  EXPECT_EQ(Value::boolean(false).format(), "0");
-  EXPECT_EQ(Value::single(1.5).format(), "1.5");
-  EXPECT_EQ(Value::single(300).format(), "300");
-  EXPECT_EQ(Value::string("a \"b\" \\ c\nd").format(), "\"a \\\"b\\\" \\\\ c\\nd\"");
-}
-
-TEST(ScriptValues, ExpectedTextMatchesByMeaning) {
-  EXPECT_TRUE(Value::colour(0xFF).matches("0xFF"));
-  EXPECT_TRUE(Value::colour(0xFF).matches("255"));
-  EXPECT_FALSE(Value::colour(0xFF).matches("0xFF00"));
-  EXPECT_TRUE(Value::boolean(true).matches("-1"));
-  EXPECT_TRUE(Value::boolean(true).matches("True"));
-  EXPECT_TRUE(Value::single(1.5).matches("1.50"));
-  EXPECT_FALSE(Value::single(1.5).matches("1"));
-  EXPECT_TRUE(Value::string("Draw Line").matches("\"Draw Line\""));
-  EXPECT_TRUE(Value::string("Draw Line").matches("Draw Line"));
-  EXPECT_FALSE(Value::string("Draw Line").matches("\"Draw\""));
-  EXPECT_FALSE(Value::of(3).matches("three"));
+TEST(ScriptValues, PrintAndMatchAsTheProgramHoldsThem) {
+  const std::pair<Value, const char*> printed[] = {
+      {Value::of(-12), "-12"}, {Value::colour(0xFF), "0x0000FF"}, {Value::colour(0x80000005LL), "0x80000005"},
+      {Value::colour(-1), "-1"}, {Value::boolean(true), "-1"}, {Value::boolean(false), "0"},
+      {Value::single(1.5), "1.5"}, {Value::single(300), "300"},
+      {Value::string("a \"b\" \\ c\nd"), "\"a \\\"b\\\" \\\\ c\\nd\""}};
+  for (const auto& [value, text] : printed) EXPECT_EQ(value.format(), text);
+  struct Match { Value value; const char* text; bool matches; };
+  const Match matches[] = {
+      {Value::colour(0xFF), "0xFF", true},  {Value::colour(0xFF), "255", true},  {Value::colour(0xFF), "0xFF00", false},
+      {Value::boolean(true), "-1", true},   {Value::boolean(true), "True", true}, {Value::single(1.5), "1.50", true},
+      {Value::single(1.5), "1", false},     {Value::string("Draw Line"), "\"Draw Line\"", true},
+      {Value::string("Draw Line"), "Draw Line", true}, {Value::string("Draw Line"), "\"Draw\"", false},
+      {Value::of(3), "three", false}};
+  for (const Match& m : matches) EXPECT_EQ(m.value.matches(m.text), m.matches) << m.text;
 }
 
 }  // namespace qp::script

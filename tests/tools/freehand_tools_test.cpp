@@ -1,11 +1,101 @@
-// AirBrush, Eraser, SawTooth and Crazy Pencil, driven through the paint area's events and the
-// virtual clock.
+// The Pencil, Shadow Draw, AirBrush, Eraser, SawTooth and Crazy Pencil, driven through the paint
+// area's events and the virtual clock; AutoDraw, whose arrow keys steer a pen that the draw timer
+// moves and draws with.
 #include <cmath>
 
+#include "core/Keyboard.h"
+#include "support/KeyInput.h"
 #include "tools/ToolFixture.h"
 
 namespace qp::test {
 namespace {
+
+TEST_F(PencilTest, StrokesTakeTheWidthTheForeColourAndTheRawEventPosition) {
+  m().DrawWidth = 5;
+  drawDot(1500, 1500);
+  EXPECT_EQ(pixel(101, 101), kWhite);  // wider than one pixel
+  EXPECT_EQ(pixel(110, 100), kBlack);
+  m().DrawWidth = 1;
+  f().lForclr.BackColor = 0x00FF00;
+  press(3000, 3000);
+  move(4500, 3000);
+  move(4500, 4507.4f);
+  EXPECT_EQ(pixel(250, 200), 0x00FF00);
+  EXPECT_EQ(pixel(300, 250), 0x00FF00);
+  EXPECT_FLOAT_EQ(m().LastY, 4507.4f);  // the segment itself ended at the rounded 4507
+}
+
+class ShadowDrawTest : public ToolTest {
+ protected:
+  void SetUp() override {
+    ToolTest::SetUp();
+    enter(f().mShadow);
+  }
+};
+
+TEST_F(ShadowDrawTest, TheTrackIsInTheBackColourAndTheCopiesFollowTheBoxes) {
+  struct Case {
+    int shadow, third, offset;
+    std::vector<Colour> seen;  // at -2O, -O, the track, +O, +2O (offsets of 40 pixels)
+  };
+  const Case cases[] = {
+      {0, 0, 600, {kBlack, kWhite, kGray, kBlack, kBlack}}, {1, 0, 600, {kBlack, kBlue, kGray, kWhite, kBlack}},
+      {1, 1, 600, {kWhite, kBlue, kGray, kWhite, kBlue}},   {0, 1, 600, {kBlue, kWhite, kGray, kWhite, kBlue}},
+      // With no offset every copy lies on the track and the one painted last shows.
+      {0, 0, 0, {kBlack, kBlack, kWhite, kBlack, kBlack}},  {1, 0, 0, {kBlack, kBlack, kBlue, kBlack, kBlack}},
+      {1, 1, 0, {kBlack, kBlack, kWhite, kBlack, kBlack}},  {0, 1, 0, {kBlack, kBlack, kBlue, kBlack, kBlack}},
+  };
+  for (const Case& c : cases) {
+    enter(f().mShadow);
+    f().ckVal.Value = c.shadow;
+    f().ckVal2.Value = c.third;
+    m().StepSize = c.offset;
+    press(3000, 3000);
+    release(3000, 3000);
+    std::vector<Colour> seen;
+    for (int k = -2; k <= 2; ++k) seen.push_back(pixel(200 + 40 * k, 200 + 40 * k));
+    EXPECT_EQ(seen, c.seen) << c.shadow << c.third << " " << c.offset;
+  }
+  // A move draws the segment and its copies.
+  enter(f().mShadow);
+  m().StepSize = 600;
+  stroke({{3000, 3000}, {6000, 3000}});
+  EXPECT_EQ(pixel(300, 200), kGray);   // the track
+  EXPECT_EQ(pixel(260, 160), kWhite);  // shifted left and up
+  EXPECT_EQ(m().LastX, 6000);
+}
+
+TEST_F(ShadowDrawTest, RainbowWithTheShadowBoxCarriesTheTrackColourOnlyWhenMoving) {
+  const Long back = m().BackClr;
+  for (int box : {1, 0}) {
+    enter(f().mShadow);
+    m().BackClr = back;
+    f().ckVal.Value = box;
+    f().vColmode.Value = 1;
+    press(3000, 3000);
+    EXPECT_EQ(m().BackClr, back);  // the press keeps the back colour
+    move(4500, 3000);
+    EXPECT_EQ(m().BackClr == m().ForeClr, box == 1);
+    EXPECT_EQ(m().BackClr == back, box == 0);
+    release(4500, 3000);
+  }
+}
+
+TEST_F(ShadowDrawTest, TheOffsetSurvivesEntryAndAnOverflowEndsOnlyItsStep) {
+  m().StepSize = 300;
+  choose(f().mPencil);
+  choose(f().mShadow);
+  EXPECT_EQ(f().vVal1.Value.get(), 300);
+  f().vColmode.Value = 0;
+  m().StepSize = 20000;  // twice that overflows
+  f().ckVal2.Value = 1;
+  stroke({{3000, 3000}, {4500, 3000}});
+  EXPECT_EQ(pixel(250, 200), kGray);  // the track before the copies
+  m().StepSize = 600;
+  press(6000, 6000);
+  EXPECT_EQ(pixel(440, 440), kWhite);  // the next stroke works as ever
+}
+
 
 class AirBrushTest : public ToolTest {
  protected:
@@ -57,40 +147,25 @@ TEST_F(AirBrushTest, TheSprayPointFollowsTheMouse) {
   EXPECT_EQ(pixel(100, 100), kBlack);
 }
 
-TEST_F(ToolTest, EraserStampsTheThirdColourThenTheForeColourUnderItsOutline) {
+TEST_F(ToolTest, EraserAndSawToothDrawOnePieceAnEventInTheRightColours) {
   enter(f().mEr);
   f().vVal1.Value = 300;  // 20 pixels a side
-  press(1500, 1500);
-  EXPECT_TRUE(f().shErase.Visible);
-  EXPECT_EQ(f().shErase.Left, 1350);
-  EXPECT_EQ(pixel(91, 91), kBlue);
-  EXPECT_EQ(pixel(109, 109), kBlue);
-  EXPECT_EQ(pixel(112, 100), kBlack);
-  move(3000, 1500);
-  EXPECT_EQ(pixel(200, 108), kWhite);
-  EXPECT_EQ(pixel(150, 100), kBlack);  // a square per event, nothing in between
-  release(3000, 1500);
-  EXPECT_FALSE(f().shErase.Visible);
-}
-
-TEST_F(ToolTest, SawToothDrawsTeethInTheBackColourAndSpokesInTheForeColour) {
-  enter(f().mSaw);
-  f().vVal1.Value = 150;  // 10 pixels
   stroke({{1500, 1500}, {3000, 1500}});
-  EXPECT_EQ(pixel(155, 105), kGray);   // tooth from (110, 110) to the pointer
-  EXPECT_EQ(pixel(205, 105), kWhite);  // spoke from the pointer shifted
+  EXPECT_EQ(pixel(91, 91), kBlue);     // the press: the third colour
+  EXPECT_EQ(pixel(109, 109), kBlue);
+  EXPECT_EQ(pixel(200, 108), kWhite);  // the move: the fore colour
+  EXPECT_EQ(pixel(150, 100), kBlack);  // a square per event, nothing in between
   enter(f().mSaw);
   f().vVal1.Value = 60;
   m().StepSize = 0;
   stroke({{1500, 1500}});
-  EXPECT_EQ(pixel(100, 100), kWhite);  // with no offset the fore colour's dot wins
+  EXPECT_EQ(pixel(100, 100), kWhite);  // with no offset the fore colour's dot wins over the tooth
 }
 
 TEST_F(ToolTest, CrazyPencilStepsThroughTheEvenDrawModesOnePerPress) {
   enter(f().mCrzyPen);
   f().ckVal.Value = 0;
   m().DrawWidth = 1;
-  f().lForclr.BackColor = 0x00FF00;
   for (int expected : {2, 4, 6, 8, 10, 12, 14, 16, 2}) {
     press(1500, 1500);
     EXPECT_EQ(f().PicPaint.DrawMode, expected);
@@ -120,6 +195,111 @@ TEST_F(ToolTest, CrazyPencilRandomColoursComeFromTheSixteen) {
     for (int n = 0; n < 16; ++n) known |= c == QBColor(n);
     EXPECT_TRUE(known) << i;
   }
+}
+
+// ---- AutoDraw ----
+
+
+class AutoDrawTest : public ProgramTest {
+ protected:
+  void SetUp() override {
+    ProgramTest::SetUp();
+    choose(f().mPencil);
+    f().vColmode.Value = 0;
+    f().ckVal.Value = 1;
+    // A click puts the pen where it was released.
+    press(1500, 1500);
+    release(1500, 1500);
+  }
+  void keyDown(int code) { canvasKeyDown(f(), code); }
+  void keyUp(int code) { canvasKeyUp(f(), code); }
+  // Runs n ticks of the pen.
+  void ticks(int n) { headless.loop.advance(static_cast<std::int64_t>(f().tDraw.Interval) * n); }
+};
+
+TEST_F(AutoDrawTest, TheBoxSwitchesThePenAndTheArrowsDriveTheWidthWhenItIsClear) {
+  EXPECT_FALSE(f().vMax.Enabled);
+  EXPECT_TRUE(f().fInt.Visible);
+  f().vVal1.Value = 10;
+  EXPECT_EQ(f().AutoDrawSpeed, 10);
+  f().ckVal.Value = 0;
+  EXPECT_TRUE(f().vMax.Enabled);
+  EXPECT_FALSE(f().fInt.Visible);
+  keyDown(vbKeyRight);
+  EXPECT_FALSE(f().tDraw.Enabled);
+  EXPECT_TRUE(f().tPenUp.Enabled);
+}
+
+TEST_F(AutoDrawTest, AHeldArrowMovesThePenAndDrawsItsTrack) {
+  f().vVal1.Value = 15;
+  keyDown(vbKeyRight);
+  EXPECT_TRUE(f().tDraw.Enabled);
+  ticks(4);
+  EXPECT_EQ(f().AutoDrawX, 1500 + 4 * 15);
+  EXPECT_EQ(f().AutoDrawY, 1500);
+  EXPECT_EQ(f().lX.Caption.get(), "X : 104");
+  EXPECT_EQ(pixel(102, 100), 0xFFFFFF);
+  keyUp(vbKeyRight);
+  EXPECT_FALSE(f().tDraw.Enabled);
+  ticks(4);
+  EXPECT_EQ(f().AutoDrawX, 1560);  // stopped with the key
+  // Clearing the box stops the drawing at the next tick; only the key up stops the timer.
+  keyDown(vbKeyDown);
+  ticks(1);
+  f().ckVal.Value = 0;
+  ticks(3);
+  EXPECT_EQ(f().AutoDrawY, 1500 + 15);
+  EXPECT_TRUE(f().tDraw.Enabled);
+}
+
+TEST_F(AutoDrawTest, OppositeKeysCancelAndCrossingKeysGoDiagonally) {
+  keyDown(vbKeyLeft);
+  keyDown(vbKeyRight);
+  keyDown(vbKeyUp);
+  ticks(3);
+  EXPECT_EQ(f().AutoDrawX, 1500);
+  EXPECT_EQ(f().AutoDrawY, 1500 - 3 * 4);
+
+  keyUp(vbKeyLeft);
+  keyUp(vbKeyUp);
+  keyDown(vbKeyDown);  // Right is still held: its flag stays
+  ticks(2);
+  EXPECT_EQ(f().AutoDrawX, 1500 + 2 * 4);
+  EXPECT_EQ(f().AutoDrawY, 1488 + 2 * 4);
+}
+
+TEST_F(AutoDrawTest, ThePenMayLeaveTheCanvasAndShowsWhereItIs) {
+  f().vVal1.Value = 40;
+  release(30, 30);  // any release moves the pen
+  keyDown(vbKeyLeft);
+  ticks(1);
+  EXPECT_EQ(f().AutoDrawX, -10);
+  ticks(1);
+  EXPECT_EQ(f().lX.Caption.get(), "X : -3");
+}
+
+TEST_F(AutoDrawTest, APenPastSixteenBitsEndsTheTickWithoutDrawing) {
+  f().vVal1.Value = 40;
+  f().AutoDrawX = 32760;
+  const QString shown = f().lX.Caption;
+  keyDown(vbKeyRight);
+  ticks(3);
+  EXPECT_EQ(f().AutoDrawX, 32760);
+  EXPECT_EQ(f().lX.Caption.get(), shown);  // no tick got as far as the display
+  keyUp(vbKeyRight);
+  keyDown(vbKeyLeft);
+  ticks(1);
+  EXPECT_EQ(f().AutoDrawX, 32720);  // the way back still works
+}
+
+TEST_F(AutoDrawTest, AnUndoReturnsToBeforeTheLastMouseStrokeNotTheRun) {
+  keyDown(vbKeyRight);
+  ticks(10);
+  keyUp(vbKeyRight);
+  ASSERT_EQ(pixel(102, 100), 0xFFFFFF);
+  choose(f().mnuUndo);
+  EXPECT_EQ(pixel(102, 100), 0x000000);
+  EXPECT_EQ(pixel(100, 100), 0x000000);  // the click's dot went with it
 }
 
 }  // namespace

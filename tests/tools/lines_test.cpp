@@ -1,4 +1,4 @@
-// Single Line, Mirror Lines and Crazy Linez on a 600 x 600 canvas (9000 twips a side).
+// Single Line, Mirror Lines, Crazy Linez and Mirrors N More on a 600 x 600 canvas (9000 twips a side).
 #include "tools/ToolFixture.h"
 
 namespace qp::test {
@@ -8,41 +8,27 @@ using LinesTest = ToolTest;
 
 TEST_F(LinesTest, SingleLineDrawsAtReleaseWithItsCopiesUnderneath) {
   struct Case {
-    int shadow, third;
+    int shadow, third, offset;
     Colour before, on, after;  // at -O, on the line, at +O
   };
-  for (const Case& c : {Case{0, 0, kBlack, kWhite, kBlack}, Case{1, 0, kBlack, kWhite, kGray},
-                        Case{0, 1, kBlue, kWhite, kBlack}, Case{1, 1, kBlue, kWhite, kGray}}) {
+  for (const Case& c : {Case{0, 0, 300, kBlack, kWhite, kBlack}, Case{1, 0, 300, kBlack, kWhite, kGray},
+                        Case{0, 1, 300, kBlue, kWhite, kBlack}, Case{1, 1, 300, kBlue, kWhite, kGray},
+                        Case{1, 1, 0, kBlack, kWhite, kBlack}}) {  // no offset: the main line lies on top
     enter(f().mSingle);
     f().ckVal.Value = c.shadow;
     f().ckVal2.Value = c.third;
-    m().StepSize = 300;  // 20 pixels
+    m().StepSize = c.offset;
     press(1500, 3000);
     move(6000, 3000);
-    EXPECT_TRUE(f().lnDraw.Visible);
     EXPECT_EQ(f().lnDraw.X2, 6000);
     EXPECT_EQ(pixel(250, 200), kBlack);  // nothing on the picture before the release
     release(6000, 3000);
     EXPECT_FALSE(f().lnDraw.Visible);
-    SCOPED_TRACE(testing::Message() << c.shadow << c.third);
+    SCOPED_TRACE(testing::Message() << c.shadow << c.third << " " << c.offset);
     EXPECT_EQ(pixel(250, 180), c.before);
     EXPECT_EQ(pixel(250, 200), c.on);
     EXPECT_EQ(pixel(250, 220), c.after);
   }
-  enter(f().mSingle);
-  f().ckVal.Value = 1;
-  f().ckVal2.Value = 1;
-  m().StepSize = 0;
-  stroke({{1500, 3000}, {6000, 3000}});
-  EXPECT_EQ(pixel(250, 200), kWhite);  // the main line lies on top
-}
-
-TEST_F(LinesTest, MirrorLinesDrawTheLineAndItsMirrorsAtRelease) {
-  enter(f().mMirLine);
-  stroke({{1500, 1500}, {3000, 1500}});
-  for (QPoint p : {QPoint(150, 100), QPoint(450, 100), QPoint(150, 500), QPoint(450, 500)})
-    EXPECT_EQ(pixel(p.x(), p.y()), kWhite) << p.x() << "," << p.y();
-  EXPECT_EQ(f().PicPaint.ScaleWidth, f().PicPaint.Width);
 }
 
 TEST_F(LinesTest, MirrorLinesJoinIntoAPolygonWithTheFirstBox) {
@@ -94,6 +80,28 @@ TEST_F(LinesTest, CrazyLinezEquationsDrawAndMoveTheLastPoint) {
     EXPECT_EQ(m().LastX, c.lastX);
     EXPECT_EQ(m().LastY, c.lastY);
     release(3000, 2250);
+  }
+}
+
+TEST_F(LinesTest, TheMirrorBoxesChooseTheCopies) {
+  struct Case {
+    int vert, horiz, autoDraw;
+    bool drawn, leftRight, topBottom, centre;
+  };
+  for (const Case& c : {Case{0, 0, 0, true, false, false, false}, Case{1, 0, 0, true, true, false, false},
+                        Case{0, 1, 0, true, false, true, false}, Case{1, 1, 0, true, true, true, true},
+                        Case{1, 1, 1, false, false, false, false}}) {  // AutoDraw: the mouse only snapshots
+    enter(f().mGpen);
+    f().ckVert.Value = c.vert;
+    f().ckHoriz.Value = c.horiz;
+    f().ckVal.Value = c.autoDraw;
+    stroke({{1500, 1500}, {3000, 1500}});  // (100, 100) to (200, 100) in pixels
+    SCOPED_TRACE(testing::Message() << c.vert << c.horiz << c.autoDraw);
+    EXPECT_EQ(pixel(150, 100) == kWhite, c.drawn);
+    EXPECT_EQ(pixel(450, 100) == kWhite, c.leftRight);
+    EXPECT_EQ(pixel(150, 500) == kWhite, c.topBottom);
+    EXPECT_EQ(pixel(450, 500) == kWhite, c.centre);
+    EXPECT_EQ(f().PicPaint.ScaleWidth, f().PicPaint.Width);  // the release put the scale back
   }
 }
 

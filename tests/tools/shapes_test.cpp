@@ -1,4 +1,4 @@
-// Simple Shapes on a 600 x 600 canvas (9000 twips a side), and FloodFill on the pixel surface.
+// Simple Shapes on a 600 x 600 canvas (9000 twips a side).
 #include "tools/ToolFixture.h"
 
 namespace qp::test {
@@ -93,28 +93,6 @@ TEST_F(ShapesTest, BoxRunsShareThePressCornerOrChain) {
   EXPECT_EQ(pixel(150, 150), kWhite);  // filled
   EXPECT_EQ(pixel(250, 175), kWhite);  // chained from the first box's corner
   EXPECT_EQ(pixel(250, 110), kBlack);
-}
-
-TEST_F(ToolTest, FloodFillFillsTheRegionOnThePixelSurfaceAndTheCanvasTakesIt) {
-  QImage pic(300, 200, QImage::Format_RGB32);
-  pic.fill(Qt::black);
-  for (int y = 0; y < 200; ++y) pic.setPixel(150, y, 0xFFFFFFFF);  // a wall
-  f().PicPaint.Picture = pic;
-  choose(f().mFF);
-  f().vColmode.Value = 0;
-  m().ForeClr = 0x00FF00;
-  f().pPix.raiseMouseDown(vbLeftButton, 0, 10, 10);
-  f().pPix.raiseMouseUp(vbLeftButton, 0, 10, 10);
-  EXPECT_EQ(GetPixel(f().pPix, 149, 199), 0x00FF00);
-  EXPECT_EQ(GetPixel(f().pPix, 151, 0), kBlack);
-  f().pPix.raiseMouseDown(vbRightButton, 0, 10, 10);
-  f().pPix.raiseMouseUp(vbRightButton, 0, 10, 10);  // undo
-  EXPECT_EQ(GetPixel(f().pPix, 10, 10), kBlack);
-  f().pPix.raiseMouseDown(vbLeftButton, 0, 200, 10);
-  f().pPix.raiseMouseUp(vbLeftButton, 0, 200, 10);
-  choose(f().mPencil);
-  EXPECT_EQ(pixel(200, 100), 0x00FF00);
-  EXPECT_EQ(pixel(10, 10), kBlack);
 }
 
 }  // namespace

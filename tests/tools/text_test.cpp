@@ -123,6 +123,13 @@ TEST_F(Text3DTest, WithCtrlTheAxisBoxStopsAtItsEnds) {
     EXPECT_EQ(f().Px(0).Value, c.px0) << c.x << ", " << c.y;
     EXPECT_EQ(f().Px(1).Value, c.px1) << c.x << ", " << c.y;
   }
+  EXPECT_EQ(f().pCoords.ToolTipText.get(), "X Axis : 25  Y Axis : 13");  // the refused moves ended early
+  // Over the picture, Ctrl carries the text; left of it or above it, the text stops at the edge.
+  f().vWid.Value = 200;
+  f().vHgt.Value = 150;
+  f().pPix.raiseMouseMove(0, 0, -5, -7);
+  EXPECT_EQ(f().vWid.Value.get(), 0);
+  EXPECT_EQ(f().vHgt.Value.get(), 0);
 }
 
 class TextBrushTest : public TextTest {

