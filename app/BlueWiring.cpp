@@ -3,6 +3,7 @@
 #include "core/Session.h"
 #include "files/Explorer.h"
 #include "ui/Windows.h"
+#include "ui/frmCanvas.h"
 #include "workshops/TransparencyTool.h"
 #include "workshops/WorkshopCommon.h"
 
