@@ -1,8 +1,8 @@
-// Solid and hatched spans. Each row of a hatch is one row of an 8-pixel pattern, a byte of
-// columns: a line of the grid fills the row, the others put down one or two pixels in eight.
+// Solid and hatched spans. A hatch row is at most a full span (a horizontal line of the grid) plus
+// one or two pixels in every eight, so a hatched area costs less than a solid one.
 #include "surface/Fill.h"
 
-#include <cstdint>
+#include <algorithm>
 
 namespace qp::raster {
 
@@ -10,31 +10,43 @@ namespace {
 
 constexpr int kGrid = 8;
 
-// The columns (mod 8) of the grid's lines that cross row y, as bits of a byte.
-std::uint8_t columnsOf(int fillStyle, int y) {
-  const int r = y % kGrid;  // y is on the bitmap, never negative
-  const auto column = [](int x) { return static_cast<std::uint8_t>(1u << (((x % kGrid) + kGrid) % kGrid)); };
-  const bool gridRow = r == 0;
-  switch (fillStyle) {
-    case 0: return 0xFF;
-    case 2: return gridRow ? 0xFF : 0;
-    case 3: return column(0);
-    case 4: return column(r);   // x - y on the grid: lines fall to the right
-    case 5: return column(-r);  // x + y on the grid: lines rise to the right
-    case 6: return gridRow ? 0xFF : column(0);
-    // Where the two diagonals cross, one bit: the mixing modes see that pixel only once.
-    case 7: return column(r) | column(-r);
-    default: return 0;
-  }
+// The smallest x >= from with x = residue (mod 8).
+int firstOnGrid(int from, int residue) {
+  const int r = ((residue % kGrid) + kGrid) % kGrid;
+  const int shift = ((r - from) % kGrid + kGrid) % kGrid;
+  return from + shift;
+}
+
+void every8(PixelWriter& out, int y, int x0, int x1, int residue) {
+  out.every(y, firstOnGrid(x0, residue), x1, kGrid);
 }
 
 }  // namespace
 
 void fillSpan(PixelWriter& out, int y, int x0, int x1, int fillStyle) {
   if (y < 0 || y >= out.height()) return;
-  const std::uint8_t columns = columnsOf(fillStyle, y);
-  if (columns == 0xFF) out.span(y, x0, x1);
-  else out.pattern(y, x0, x1, columns);
+  if (x0 > x1) std::swap(x0, x1);
+  x0 = std::max(x0, 0);
+  x1 = std::min(x1, out.width() - 1);
+  if (x0 > x1) return;
+  const bool gridRow = y % kGrid == 0;
+  switch (fillStyle) {
+    case 0: out.span(y, x0, x1); break;
+    case 2: if (gridRow) out.span(y, x0, x1); break;
+    case 3: every8(out, y, x0, x1, 0); break;
+    case 4: every8(out, y, x0, x1, y); break;   // x - y on the grid: lines fall to the right
+    case 5: every8(out, y, x0, x1, -y); break;  // x + y on the grid: lines rise to the right
+    case 6:
+      if (gridRow) out.span(y, x0, x1);
+      else every8(out, y, x0, x1, 0);
+      break;
+    case 7:
+      // Where the two diagonals cross, one pen pixel: the mixing modes must see it only once.
+      if ((2 * y) % kGrid == 0) every8(out, y, x0, x1, y);
+      else out.every(y, firstOnGrid(x0, y), firstOnGrid(x0, -y), x1, kGrid);
+      break;
+    default: break;
+  }
 }
 
 }  // namespace qp::raster

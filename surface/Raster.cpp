@@ -114,48 +114,6 @@ void PixelWriter::every(int y, int firstA, int firstB, int x1, int step) {
   note(y, firstA, last);
 }
 
-namespace {
-
-// Whole groups of eight pixels, the first at a column that is a multiple of 8: the pen where the
-// lane's mask is set, the pixel as it was elsewhere. No branch, so it runs in wide vectors.
-[[gnu::noinline, gnu::target_clones("arch=skylake-avx512", "avx2", "default")]]
-void patternGroups(std::uint32_t* __restrict p, int groups, const std::uint32_t* __restrict mask,
-                   std::uint32_t pen) {
-  for (int g = 0; g < groups; ++g, p += 8)
-    for (int k = 0; k < 8; ++k) p[k] = (p[k] & ~mask[k]) | (pen & mask[k]);
-}
-
-bool columnOn(std::uint8_t columns, int x) { return (columns >> (x & 7)) & 1; }
-
-}  // namespace
-
-void PixelWriter::pattern(int y, int x0, int x1, std::uint8_t columns) {
-  if (y < 0 || y >= h_ || columns == 0) return;
-  if (x0 > x1) std::swap(x0, x1);
-  x0 = std::max(x0, 0);
-  x1 = std::min(x1, w_ - 1);
-  // The first and last pixels the pattern puts down, within eight of the ends.
-  while (x0 <= x1 && !columnOn(columns, x0)) ++x0;
-  while (x1 >= x0 && !columnOn(columns, x1)) --x1;
-  if (x0 > x1) return;
-  std::uint32_t* p = row(y);
-  note(y, x0, x1);
-  if (mode_ != 13) {
-    for (int x = x0; x <= x1; ++x)
-      if (columnOn(columns, x)) p[x] = mix(mode_, pen_, p[x]);
-    return;
-  }
-  int x = x0;
-  for (; x <= x1 && (x & 7) != 0; ++x)
-    if (columnOn(columns, x)) p[x] = pen_;
-  std::uint32_t mask[8];
-  for (int k = 0; k < 8; ++k) mask[k] = columnOn(columns, k) ? 0xFFFFFFFFu : 0u;
-  const int groups = (x1 + 1 - x) / 8;
-  patternGroups(p + x, groups, mask, pen_);
-  for (x += groups * 8; x <= x1; ++x)
-    if (columnOn(columns, x)) p[x] = pen_;
-}
-
 QRect PixelWriter::touched() const {
   if (minX_ > maxX_) return {};
   return QRect(QPoint(minX_, minY_), QPoint(maxX_, maxY_));

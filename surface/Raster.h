@@ -75,9 +75,6 @@ class PixelWriter {
   void every(int y, int first, int x1, int step);
   // The same for two interleaved runs with one step, in one sweep along the row.
   void every(int y, int firstA, int firstB, int x1, int step);
-  // The pixels x0..x1 (inclusive, any order, clipped) of row y whose column x has bit x % 8 set
-  // in `columns`: one row of an 8-pixel pattern, written eight pixels at a time.
-  void pattern(int y, int x0, int x1, std::uint8_t columns);
   QRect touched() const;
 
  private:
