@@ -61,9 +61,12 @@ TEST_F(TextRunTest, TheLineKeyByKeyPrintsAsTheWholeLine) {
     for (int i = 1; i <= text.size(); ++i) run.follow(keyed, text.left(i), i - 1);
     const QString left = text.left(text.size() - c.erased);
     run.follow(keyed, left, left.size());
+    whole.takeDirty();
+    keyed.takeDirty();
     whole.Print(left);
     keyed.PrintRun(left, run);
     EXPECT_TRUE(whole.bitmap() == keyed.bitmap());
+    EXPECT_EQ(whole.takeDirty(), keyed.takeDirty());  // the view repaints the same rectangle
     EXPECT_EQ(whole.CurrentX.get(), keyed.CurrentX.get());
     EXPECT_EQ(whole.CurrentY.get(), keyed.CurrentY.get());
     EXPECT_EQ(whole.TextWidth(left), keyed.TextWidth(left, run));
