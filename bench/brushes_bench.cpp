@@ -9,6 +9,7 @@
 #include <map>
 #include <memory>
 
+#include "bench/Summary.h"
 #include "app/Program.h"
 #include "platform/Headless.h"
 #include "platform/Memory.h"
@@ -91,31 +92,6 @@ void BM_QPainterText(benchmark::State& state) {
 }
 BENCHMARK(BM_QPainterText);
 
-class Collector : public benchmark::ConsoleReporter {
- public:
-  void ReportRuns(const std::vector<Run>& runs) override {
-    for (const Run& r : runs)
-      if (!r.error_occurred && r.run_type == Run::RT_Iteration) ns[r.benchmark_name()] = r.GetAdjustedCPUTime();
-    ConsoleReporter::ReportRuns(runs);
-  }
-  std::map<std::string, double> ns;
-};
-
-void summary(const Collector& c) {
-  const std::pair<const char*, const char*> pairs[] = {
-      {"BM_FigureStamp/55", "BM_BareFigure/55"},
-      {"BM_FigureStamp/36", "BM_BareFigure/36"},
-      {"BM_FigureStamp/49", "BM_BareFigure/49"},
-      {"BM_TextBrushStamp", "BM_QPainterText"},
-  };
-  std::printf("\n%-22s %12s   %-18s %12s %8s\n", "stamp", "cpu time", "reference", "cpu time", "ratio");
-  for (const auto& [op, ref] : pairs) {
-    const auto a = c.ns.find(op), b = c.ns.find(ref);
-    if (a == c.ns.end() || b == c.ns.end()) continue;
-    std::printf("%-22s %9.0f ns   %-18s %9.0f ns %8.2f\n", op, a->second, ref, b->second, a->second / b->second);
-  }
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -123,9 +99,14 @@ int main(int argc, char** argv) {
   qp::keepPictureMemoryForReuse();
   QApplication app(argc, argv);
   benchmark::Initialize(&argc, argv);
-  Collector collector;
+  qp::bench::Collector collector;
   benchmark::RunSpecifiedBenchmarks(&collector);
-  summary(collector);
+  qp::bench::printSummary(collector, {
+      {"BM_FigureStamp/55", "BM_BareFigure/55"},
+      {"BM_FigureStamp/36", "BM_BareFigure/36"},
+      {"BM_FigureStamp/49", "BM_BareFigure/49"},
+      {"BM_TextBrushStamp", "BM_QPainterText"},
+  });
   benchmark::Shutdown();
   return 0;
 }

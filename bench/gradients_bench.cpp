@@ -12,6 +12,7 @@
 #include <memory>
 #include <vector>
 
+#include "bench/Summary.h"
 #include "app/Program.h"
 #include "platform/Headless.h"
 #include "platform/Memory.h"
@@ -160,33 +161,6 @@ void BM_BareSphereCircles(benchmark::State& state) {
 }
 BENCHMARK(BM_BareSphereCircles)->Unit(benchmark::kMillisecond);
 
-// ---- the summary ----
-
-class Collector : public benchmark::ConsoleReporter {
- public:
-  void ReportRuns(const std::vector<Run>& runs) override {
-    for (const Run& r : runs)
-      if (!r.error_occurred && r.run_type == Run::RT_Iteration)
-        ns[r.benchmark_name()] = r.GetAdjustedCPUTime() * (r.time_unit == benchmark::kMillisecond ? 1e6 : 1.0);
-    ConsoleReporter::ReportRuns(runs);
-  }
-  std::map<std::string, double> ns;
-};
-
-void summary(const Collector& c) {
-  const std::pair<const char*, const char*> pairs[] = {
-      {"BM_LinearRamp", "BM_RefCopyCanvas"},      {"BM_LinearButton", "BM_RefCopyCanvas"},
-      {"BM_LinearRamp", "BM_RefQLinearGradient"}, {"BM_Diamonds", "BM_BareDiamondLines"},
-      {"BM_Circles", "BM_BareCircles"},           {"BM_Sphere", "BM_BareSphereCircles"},
-  };
-  std::printf("\n%-22s %14s   %-24s %14s %8s\n", "operation", "cpu time", "reference", "cpu time", "ratio");
-  for (const auto& [op, ref] : pairs) {
-    const auto a = c.ns.find(op), b = c.ns.find(ref);
-    if (a == c.ns.end() || b == c.ns.end()) continue;
-    std::printf("%-22s %11.0f ns   %-24s %11.0f ns %8.2f\n", op, a->second, ref, b->second, a->second / b->second);
-  }
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -194,9 +168,16 @@ int main(int argc, char** argv) {
   qp::keepPictureMemoryForReuse();
   QApplication app(argc, argv);
   benchmark::Initialize(&argc, argv);
-  Collector collector;
+  qp::bench::Collector collector;
   benchmark::RunSpecifiedBenchmarks(&collector);
-  summary(collector);
+  qp::bench::printSummary(collector, {
+      {"BM_LinearRamp", "BM_RefCopyCanvas"},
+      {"BM_LinearButton", "BM_RefCopyCanvas"},
+      {"BM_LinearRamp", "BM_RefQLinearGradient"},
+      {"BM_Diamonds", "BM_BareDiamondLines"},
+      {"BM_Circles", "BM_BareCircles"},
+      {"BM_Sphere", "BM_BareSphereCircles"},
+  });
   benchmark::Shutdown();
   return 0;
 }

@@ -15,6 +15,7 @@
 #include <string>
 #include <vector>
 
+#include "bench/Summary.h"
 #include "app/Program.h"
 #include "platform/Headless.h"
 #include "platform/Memory.h"
@@ -138,7 +139,7 @@ void BM_FilledCircle(benchmark::State& state) {
   b.FillStyle = static_cast<int>(state.range(0));
   for (auto _ : state) b.Circle(2048, 2048, 1000, 0xFFFFFF);
 }
-BENCHMARK(BM_FilledCircle)->Arg(0)->Arg(2)->Arg(7)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_FilledCircle)->DenseRange(2, 7)->Arg(0)->Unit(benchmark::kMillisecond);
 
 void BM_RefDrawEllipseBrush(benchmark::State& state) {
   static QImage img = [] {
@@ -161,7 +162,7 @@ void BM_HatchedCanvas(benchmark::State& state) {
   b.FillStyle = static_cast<int>(state.range(0));
   for (auto _ : state) b.Circle(2048, 2048, 2900, 0xFFFFFF);
 }
-BENCHMARK(BM_HatchedCanvas)->Arg(2)->Arg(6)->Arg(7)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_HatchedCanvas)->DenseRange(2, 7)->Unit(benchmark::kMillisecond);
 
 void BM_RefCanvasCopy(benchmark::State& state) {
   QImage from(kSide, kSide, QImage::Format_RGB32), to(kSide, kSide, QImage::Format_RGB32);
@@ -174,38 +175,6 @@ void BM_RefCanvasCopy(benchmark::State& state) {
 }
 BENCHMARK(BM_RefCanvasCopy)->Unit(benchmark::kMillisecond);
 
-// ---- the summary ----
-
-class Collector : public benchmark::ConsoleReporter {
- public:
-  void ReportRuns(const std::vector<Run>& runs) override {
-    for (const Run& r : runs)
-      if (!r.error_occurred && r.run_type == Run::RT_Iteration)
-        ns[r.benchmark_name()] = r.GetAdjustedCPUTime() * (r.time_unit == benchmark::kMillisecond ? 1e6 : 1.0);
-    ConsoleReporter::ReportRuns(runs);
-  }
-  std::map<std::string, double> ns;
-};
-
-void summary(const Collector& c) {
-  const std::pair<const char*, const char*> pairs[] = {
-      {"BM_MirrorMove", "BM_RefMirrorLines"},
-      {"BM_AirTick", "BM_RefAirPSet"},
-      {"BM_FilledCircle/0", "BM_RefDrawEllipseBrush"},
-      {"BM_FilledCircle/2", "BM_RefDrawEllipseBrush"},
-      {"BM_FilledCircle/7", "BM_RefDrawEllipseBrush"},
-      {"BM_HatchedCanvas/2", "BM_RefCanvasCopy"},
-      {"BM_HatchedCanvas/6", "BM_RefCanvasCopy"},
-      {"BM_HatchedCanvas/7", "BM_RefCanvasCopy"},
-  };
-  std::printf("\n%-26s %14s   %-24s %14s %8s\n", "operation", "cpu time", "reference", "cpu time", "ratio");
-  for (const auto& [op, ref] : pairs) {
-    const auto a = c.ns.find(op), b = c.ns.find(ref);
-    if (a == c.ns.end() || b == c.ns.end()) continue;
-    std::printf("%-26s %11.0f ns   %-24s %11.0f ns %8.2f\n", op, a->second, ref, b->second, a->second / b->second);
-  }
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -213,9 +182,25 @@ int main(int argc, char** argv) {
   qp::keepPictureMemoryForReuse();  // as the program does
   QApplication app(argc, argv);
   benchmark::Initialize(&argc, argv);
-  Collector collector;
+  qp::bench::Collector collector;
   benchmark::RunSpecifiedBenchmarks(&collector);
-  summary(collector);
+  qp::bench::printSummary(collector, {
+      {"BM_MirrorMove", "BM_RefMirrorLines"},
+      {"BM_AirTick", "BM_RefAirPSet"},
+      {"BM_FilledCircle/0", "BM_RefDrawEllipseBrush", 1.5},
+      {"BM_FilledCircle/2", "BM_RefDrawEllipseBrush", 1.5},
+      {"BM_FilledCircle/3", "BM_RefDrawEllipseBrush", 1.5},
+      {"BM_FilledCircle/4", "BM_RefDrawEllipseBrush", 1.5},
+      {"BM_FilledCircle/5", "BM_RefDrawEllipseBrush", 1.5},
+      {"BM_FilledCircle/6", "BM_RefDrawEllipseBrush", 1.5},
+      {"BM_FilledCircle/7", "BM_RefDrawEllipseBrush", 1.5},
+      {"BM_HatchedCanvas/2", "BM_RefCanvasCopy", 3},
+      {"BM_HatchedCanvas/3", "BM_RefCanvasCopy", 3},
+      {"BM_HatchedCanvas/4", "BM_RefCanvasCopy", 3},
+      {"BM_HatchedCanvas/5", "BM_RefCanvasCopy", 3},
+      {"BM_HatchedCanvas/6", "BM_RefCanvasCopy", 3},
+      {"BM_HatchedCanvas/7", "BM_RefCanvasCopy", 3},
+  });
   benchmark::Shutdown();
   return 0;
 }

@@ -12,6 +12,7 @@
 #include <map>
 #include <string>
 
+#include "bench/Summary.h"
 #include "app/Program.h"
 #include "platform/Headless.h"
 #include "platform/Memory.h"
@@ -150,31 +151,6 @@ void BM_RefCanvasCopy(benchmark::State& state) {
 }
 BENCHMARK(BM_RefCanvasCopy)->Unit(benchmark::kMillisecond);
 
-class Collector : public benchmark::ConsoleReporter {
- public:
-  void ReportRuns(const std::vector<Run>& runs) override {
-    for (const Run& r : runs)
-      if (!r.error_occurred && r.run_type == Run::RT_Iteration)
-        ns[r.benchmark_name()] = r.GetAdjustedCPUTime() * (r.time_unit == benchmark::kMillisecond ? 1e6 : 1.0);
-    ConsoleReporter::ReportRuns(runs);
-  }
-  std::map<std::string, double> ns;
-};
-
-void summary(const Collector& c) {
-  const std::pair<const char*, const char*> pairs[] = {
-      {"BM_StampTransparent512", "BM_RefPainterMasked512"},
-      {"BM_MoveFloat1024", "BM_RefCanvasCopy"},
-      {"BM_TileSelection4x4", "BM_RefCanvasCopy"},
-  };
-  std::printf("\n%-26s %14s   %-24s %14s %10s\n", "operation", "cpu time", "reference", "cpu time", "ratio");
-  for (const auto& [op, ref] : pairs) {
-    const auto a = c.ns.find(op), b = c.ns.find(ref);
-    if (a == c.ns.end() || b == c.ns.end()) continue;
-    std::printf("%-26s %11.0f ns   %-24s %11.0f ns %10.5f\n", op, a->second, ref, b->second, a->second / b->second);
-  }
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -182,9 +158,13 @@ int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QGuiApplication app(argc, argv);
   benchmark::Initialize(&argc, argv);
-  Collector collector;
+  qp::bench::Collector collector;
   benchmark::RunSpecifiedBenchmarks(&collector);
-  summary(collector);
+  qp::bench::printSummary(collector, {
+      {"BM_StampTransparent512", "BM_RefPainterMasked512"},
+      {"BM_MoveFloat1024", "BM_RefCanvasCopy"},
+      {"BM_TileSelection4x4", "BM_RefCanvasCopy"},
+  });
   benchmark::Shutdown();
   return 0;
 }

@@ -13,6 +13,7 @@
 #include <memory>
 #include <string>
 
+#include "bench/Summary.h"
 #include "platform/Headless.h"
 #include "platform/Memory.h"
 #include "platform/qt/QtRuntime.h"
@@ -176,38 +177,6 @@ void BM_FullScreenMove(benchmark::State& state) {
 }
 BENCHMARK(BM_FullScreenMove)->Args({1920, 1080})->Args({3840, 2160});
 
-class Collector : public benchmark::ConsoleReporter {
- public:
-  void ReportRuns(const std::vector<Run>& runs) override {
-    for (const Run& r : runs)
-      if (!r.error_occurred && r.run_type == Run::RT_Iteration)
-        ns[r.benchmark_name()] = (r.benchmark_name().find("RealClock") != std::string::npos ? r.GetAdjustedRealTime()
-                                                                                             : r.GetAdjustedCPUTime()) *
-                                 (r.time_unit == benchmark::kMillisecond ? 1e6 : 1.0);
-    ConsoleReporter::ReportRuns(runs);
-  }
-  std::map<std::string, double> ns;
-};
-
-void summary(const Collector& c) {
-  const std::pair<const char*, const char*> pairs[] = {
-      {"BM_GeoSpiralUnpaced/3", "BM_GeoSpiralBareLines/3"},
-      {"BM_GeoSpiralUnpaced/8", "BM_GeoSpiralBareLines/8"},
-      {"BM_FreehandMove", "BM_FreehandBarePass"},
-      {"BM_FullScreenMove/3840/2160", "BM_FullScreenMove/1920/1080"},
-  };
-  std::printf("\n%-30s %14s   %-30s %14s %8s\n", "operation", "time", "reference", "time", "ratio");
-  for (const auto& [op, ref] : pairs) {
-    const auto a = c.ns.find(op), b = c.ns.find(ref);
-    if (a == c.ns.end() || b == c.ns.end()) continue;
-    std::printf("%-30s %11.0f ns   %-30s %11.0f ns %8.2f\n", op, a->second, ref, b->second, a->second / b->second);
-  }
-  for (const char* paced : {"BM_GeoSpiralPacedRealClock/3/iterations:1/real_time",
-                            "BM_GeoSpiralPacedRealClock/8/iterations:1/real_time"})
-    if (auto p = c.ns.find(paced); p != c.ns.end())
-      std::printf("%-52s %8.0f ms as the user waits\n", paced, p->second / 1e6);
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -215,9 +184,17 @@ int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication app(argc, argv);
   benchmark::Initialize(&argc, argv);
-  Collector collector;
+  qp::bench::Collector collector;
   benchmark::RunSpecifiedBenchmarks(&collector);
-  summary(collector);
+  qp::bench::printSummary(collector, {
+      {"BM_GeoSpiralUnpaced/3", "BM_GeoSpiralBareLines/3"},
+      {"BM_GeoSpiralUnpaced/8", "BM_GeoSpiralBareLines/8"},
+      {"BM_FreehandMove", "BM_FreehandBarePass"},
+      {"BM_FullScreenMove/3840/2160", "BM_FullScreenMove/1920/1080"},
+  });
+  for (const char* paced : {"BM_GeoSpiralPacedRealClock/3", "BM_GeoSpiralPacedRealClock/8"})
+    if (const double t = collector.ns(paced, qp::bench::Clock::Wall); t >= 0)
+      std::printf("%-34s %11.0f ms as the user waits\n", paced, t / 1e6);
   benchmark::Shutdown();
   return 0;
 }

@@ -8,6 +8,7 @@
 #include <memory>
 #include <vector>
 
+#include "bench/Summary.h"
 #include "core/Undo.h"
 #include "platform/Headless.h"
 #include "platform/Memory.h"
@@ -100,7 +101,15 @@ int main(int argc, char** argv) {
   qp::keepPictureMemoryForReuse();  // as the program does
   QApplication app(argc, argv);
   benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
+  qp::bench::Collector collector;
+  benchmark::RunSpecifiedBenchmarks(&collector);
+  qp::bench::printSummary(collector, {
+      {"BM_PencilMove/1", "BM_BareLines/1"},
+      {"BM_PencilMove/8", "BM_BareLines/8"},
+      {"BM_PencilMove/40", "BM_BareLines/40"},
+      {"BM_PencilPressRelease", "BM_SnapshotThenLine"},
+      {"BM_SnapshotThenLine", "BM_MemcpyCanvas"},
+  });
   benchmark::Shutdown();
   return 0;
 }

@@ -13,6 +13,7 @@
 #include <string>
 #include <vector>
 
+#include "bench/Summary.h"
 #include "platform/Memory.h"
 #include "platform/Form.h"
 #include "platform/Headless.h"
@@ -224,22 +225,16 @@ void BM_BakeOnly(benchmark::State& state) {
 }
 BENCHMARK(BM_BakeOnly);
 
-// ---- the summary ----
+}  // namespace
 
-class Collector : public benchmark::ConsoleReporter {
- public:
-  void ReportRuns(const std::vector<Run>& runs) override {
-    for (const Run& r : runs)
-      if (!r.error_occurred && r.run_type == Run::RT_Iteration)
-        ns[r.benchmark_name()] = r.GetAdjustedCPUTime() *
-                                 (r.time_unit == benchmark::kMillisecond ? 1e6 : 1.0);
-    ConsoleReporter::ReportRuns(runs);
-  }
-  std::map<std::string, double> ns;
-};
-
-void summary(const Collector& c) {
-  const std::pair<const char*, const char*> pairs[] = {
+int main(int argc, char** argv) {
+  qp::keepPictureMemoryForReuse();
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QGuiApplication app(argc, argv);
+  benchmark::Initialize(&argc, argv);
+  qp::bench::Collector collector;
+  benchmark::RunSpecifiedBenchmarks(&collector);
+  qp::bench::printSummary(collector, {
       {"BM_Line/1", "BM_RefFillRectLine/1"},
       {"BM_Line/8", "BM_RefFillRectLine/8"},
       {"BM_Line/40", "BM_RefFillRectLine/40"},
@@ -250,26 +245,7 @@ void summary(const Collector& c) {
       {"BM_FloodFillWhole", "BM_RefMemcpyCanvas"},
       {"BM_FloodFillSerpentine", "BM_RefMemcpyCanvas"},
       {"BM_BakeThenDraw", "BM_RefMemcpyCanvas"},
-  };
-  std::printf("\n%-26s %14s   %-24s %14s %8s\n", "operation", "cpu time", "reference", "cpu time", "ratio");
-  for (const auto& [op, ref] : pairs) {
-    const auto a = c.ns.find(op), b = c.ns.find(ref);
-    if (a == c.ns.end() || b == c.ns.end()) continue;
-    std::printf("%-26s %11.0f ns   %-24s %11.0f ns %8.2f\n", op, a->second, ref, b->second,
-                a->second / b->second);
-  }
-}
-
-}  // namespace
-
-int main(int argc, char** argv) {
-  qp::keepPictureMemoryForReuse();
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  QGuiApplication app(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  Collector collector;
-  benchmark::RunSpecifiedBenchmarks(&collector);
-  summary(collector);
+  });
   benchmark::Shutdown();
   return 0;
 }

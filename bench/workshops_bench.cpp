@@ -14,6 +14,7 @@
 #include <random>
 #include <string>
 
+#include "bench/Summary.h"
 #include "platform/Memory.h"
 #include "workshops/PictureOps.h"
 
@@ -140,20 +141,6 @@ double blendPeakInPictures() {
   return pictures;
 }
 
-class Collector : public benchmark::ConsoleReporter {
- public:
-  void ReportRuns(const std::vector<Run>& runs) override {
-    // CPU time: each operation runs on one thread, and on a shared machine the wall clock also
-    // counts the other programs' turns.
-    for (const Run& r : runs) {
-      const std::string name = r.benchmark_name();
-      ms[name.substr(0, name.find('/'))] = r.GetAdjustedCPUTime();
-    }
-    ConsoleReporter::ReportRuns(runs);
-  }
-  std::map<std::string, double> ms;
-};
-
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -163,17 +150,17 @@ int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QGuiApplication app(argc, argv);
   benchmark::Initialize(&argc, argv);
-  Collector c;
+  // CPU time: each operation runs on one thread, and on a shared machine the wall clock also
+  // counts the other programs' turns.
+  qp::bench::Collector c;
   benchmark::RunSpecifiedBenchmarks(&c);
-  std::printf("\n%-22s %9s %-24s %9s %7s %7s\n", "operation", "ms", "beside", "ms", "ratio", "limit");
-  struct Row { const char* op; const char* ref; double limit; };
-  for (const Row& r : {Row{"BM_Blend", "BM_RefCanvasCopy", 2.0}, Row{"BM_Tile4x4", "BM_RefCopyOfResult", 1.5},
-                       Row{"BM_KeyColourOverlay", "BM_RefCanvasCopy", 3.0},
-                       Row{"BM_Stretch", "BM_RefQPainterDrawImage", 1.0}}) {
-    const double a = c.ms[r.op], b = c.ms[r.ref];
-    std::printf("%-22s %9.2f %-24s %9.2f %7.2f %7.2f\n", r.op, a, r.ref, b, b > 0 ? a / b : 0.0, r.limit);
-  }
-  std::printf("%-22s %9.2f pictures of 8192 x 8192 (limit 4)\n", "blend peak memory", peak);
+  qp::bench::printSummary(c, {
+      {"BM_Blend", "BM_RefCanvasCopy", 2.0},
+      {"BM_Tile4x4", "BM_RefCopyOfResult", 1.5},
+      {"BM_KeyColourOverlay", "BM_RefCanvasCopy", 3.0},
+      {"BM_Stretch", "BM_RefQPainterDrawImage", 1.0},
+  });
+  std::printf("%-34s %8.2f pictures of 8192 x 8192 (limit 4)\n", "blend peak memory", peak);
   benchmark::Shutdown();
   return 0;
 }

@@ -2,6 +2,7 @@
 #include "platform/Controls.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/Form.h"
 
@@ -158,8 +159,13 @@ CommandButton::CommandButton(Form* form, Control* parent, QString name, int inde
 TextBox::TextBox(Form* form, Control* parent, QString name, int index)
     : VisualControl(form, parent, std::move(name), index) {
   Text.setSetter([this](const QString& v) {
-    if (v == Text.get()) return;
+    const qsizetype keeping = std::exchange(keeping_, 0);
+    const QString& old = Text.get();
+    if (v == old) return;
+    // A typed key says what it kept; any other change kept what both texts begin with.
+    kept_ = keeping > 0 ? keeping : std::mismatch(old.begin(), old.end(), v.begin(), v.end()).first - old.begin();
     Text.setRaw(v);
+    ++edits_;
     if (Change) Change();
   });
 }
@@ -171,15 +177,23 @@ void TextBox::typeChar(QChar c) { typeText(QString(c)); }
 void TextBox::typeText(const QString& typed) {
   QString text = Text.get();
   Text.setRaw(QString());
+  keeping_ = text.size();
   text += typed;
   Text = std::move(text);
 }
 
 void TextBox::typeBackspace() {
   if (Text.get().isEmpty()) return;
+  const qsizetype drop = Text.get().endsWith("\r\n") ? 2 : 1;  // a line break goes as one
+  // The last character goes as any change does: taken out, the text would look unchanged.
+  if (Text.get().size() == drop) {
+    Text = QString();
+    return;
+  }
   QString text = Text.get();
   Text.setRaw(QString());
-  text.chop(text.endsWith("\r\n") ? 2 : 1);  // a line break goes as one
+  text.chop(drop);
+  keeping_ = text.size();
   Text = std::move(text);
 }
 

@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QString>
 #include <QStringList>
+#include <cstdint>
 #include <vector>
 
 #include "platform/Control.h"
@@ -141,6 +142,17 @@ class TextBox : public VisualControl {
   void typeChar(QChar c);
   void typeText(const QString& typed);
   void typeBackspace();
+  // How the text came to be what it is, for a reader that follows it from its end instead of
+  // reading it whole at every key: the count of changes so far, and how many leading characters
+  // the last change kept (a typed key all the old text, a backspace all but what it took, any
+  // other change the stretch the old and the new text begin with).
+  std::uint64_t edits() const { return edits_; }
+  qsizetype keptByLastEdit() const { return kept_; }
+
+ private:
+  std::uint64_t edits_ = 0;
+  qsizetype kept_ = 0;
+  qsizetype keeping_ = 0;  // what the change under way keeps; the setter takes it
 };
 
 // A list: ListIndex -1 means nothing chosen; setting it raises Click; Text is the chosen entry.

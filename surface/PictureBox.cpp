@@ -184,7 +184,11 @@ void PictureBox::clearTo(Colour c) {
   // A picture that covers the whole bitmap needs no background: share it instead of copying, so
   // that `X.Picture = X.Image` and Cls after it cost nothing until the next drawing call.
   if (!pic.isNull() && pic.size() == image_.size() && pic.format() == QImage::Format_RGB32) {
+    // The bitmap's own pixels are kept for the next drawing call to copy the picture into: a
+    // Cls at every step (a live sample) then reuses one buffer instead of taking fresh memory.
+    QImage own = std::move(image_);
     image_ = pic;
+    recycle(std::move(own));
   } else {
     if (image_.isDetached()) {
       image_.fill(raster::toPixel(c));

@@ -8,6 +8,7 @@
 #include <QImage>
 #include <QRect>
 #include <QString>
+#include <cstdint>
 #include <optional>
 
 #include "platform/Control.h"
@@ -15,6 +16,7 @@
 namespace qp {
 
 class PictureBox;
+class TextRun;
 
 // The `Image` of a picture box: a read-only handle that converts to the present bitmap by value.
 class ImageHandle {
@@ -118,6 +120,13 @@ class PictureBox : public VisualControl {
   void PrintOnLine(const QString& text);
   Single TextWidth(const QString& text) const;
   Single TextHeight(const QString& text) const;
+  // The same for a line that `run` follows (TextRun.h): the same pixels and figures, at a cost
+  // that does not grow with the line, since only the characters that can land inside are drawn.
+  void PrintRun(const QString& text, const TextRun& run);
+  Single TextWidth(const QString& text, const TextRun& run) const;
+  Single TextHeight(const QString& text, const TextRun& run) const;
+  // The characters handed to the text painter so far: what printing costs, counted.
+  std::uint64_t charactersDrawn() const { return charactersDrawn_; }
 
   // Unit conversions between the present scale and the bitmap's pixels.
   double toPixelX(double x) const;
@@ -173,6 +182,7 @@ class PictureBox : public VisualControl {
   QImage spare_;
   QRect dirty_;
   bool refreshRequested_ = false;
+  std::uint64_t charactersDrawn_ = 0;
 };
 
 }  // namespace qp

@@ -11,10 +11,9 @@
 
 #include "surface/PictureBox.h"
 #include "surface/Raster.h"
+#include "surface/TextFont.h"
 
 namespace qp {
-
-namespace {
 
 QFont fontOf(const PictureBox& box) {
   QFont f(box.FontName.get());
@@ -27,6 +26,8 @@ QFont fontOf(const PictureBox& box) {
   f.setStyleStrategy(QFont::NoAntialias);
   return f;
 }
+
+namespace {
 
 QStringList linesOf(const QString& text) {
   QString t = text;
@@ -58,6 +59,7 @@ void PictureBox::printLines(const QString& text, bool staysOnLine) {
     const QRect cell(x, y, lastAdvance, fm.height());
     if (!FontTransparent) p.fillRect(cell, QColor::fromRgb(raster::toPixel(BackColor)));
     if (!line.isEmpty()) p.drawText(QPoint(x, y + fm.ascent()), line);
+    charactersDrawn_ += static_cast<std::uint64_t>(line.size());
     // Italic overhang and underline may reach a little past the advance.
     markDirty(cell.adjusted(-2, 0, fm.maxWidth() / 2 + 2, 2));
     if (!staysOnLine || i + 1 < lines.size()) y += fm.lineSpacing();

@@ -8,14 +8,16 @@
 namespace qp {
 
 void Draw3DText(Session& s, PictureBox& surface, Single depth, Single& r1, Single& g1, Single& b1,
-                Single r2, Single g2, Single b2, Single& xAxis, Single& yAxis, const QString& text) {
+                Single r2, Single g2, Single b2, Single& xAxis, Single& yAxis, const QString& text,
+                const TextRun* run) {
   frmCanvas& f = s.f;
   ModQuillora& m = s.m;
   surface.Cls();
   xAxis = xAxis / 10;
   yAxis = yAxis / 10;
-  m.PrintX = CInt(f.vWid.Value - surface.TextWidth(f.Text1.Text) / 2);
-  m.PrintY = CInt(f.vHgt.Value - surface.TextHeight(f.Text1.Text) / 2);
+  const QString& typed = f.Text1.Text;
+  m.PrintX = CInt(f.vWid.Value - (run ? surface.TextWidth(typed, *run) : surface.TextWidth(typed)) / 2);
+  m.PrintY = CInt(f.vHgt.Value - (run ? surface.TextHeight(typed, *run) : surface.TextHeight(typed)) / 2);
   // Back by half the stack, so that the whole stack stays centred.
   m.PrintX = CInt(m.PrintX - depth * xAxis / 2);
   m.PrintY = CInt(m.PrintY - depth * yAxis / 2);
@@ -34,7 +36,8 @@ void Draw3DText(Session& s, PictureBox& surface, Single depth, Single& r1, Singl
     if (Int(g1) < 0) g1 = 0;
     if (Int(b1) < 0) b1 = 0;
     surface.ForeColor = RGB(static_cast<int>(Int(r1)), static_cast<int>(Int(g1)), static_cast<int>(Int(b1)));
-    surface.Print(text);
+    if (run) surface.PrintRun(text, *run);
+    else surface.Print(text);
   }
   surface.Refresh();
 }
@@ -42,10 +45,19 @@ void Draw3DText(Session& s, PictureBox& surface, Single depth, Single& r1, Singl
 void RedrawText3D(Session& s) {
   frmCanvas& f = s.f;
   trap([&] {
+    // Keys change the text at its end: the run measures only what they changed.
+    TextRun& run = s.text3DRun;
+    const QString& text = f.Text1.Text;
+    const std::uint64_t edits = f.Text1.edits();
+    const qsizetype kept = edits == s.text3DEdits ? text.size()
+                           : edits == s.text3DEdits + 1 ? f.Text1.keptByLastEdit()
+                                                        : 0;
+    run.follow(f.pPix, text, kept);
+    s.text3DEdits = edits;
     Single r1 = f.HS1(0).Value, g1 = f.HS1(1).Value, b1 = f.HS1(2).Value;
     Single xAxis = f.Px(0).Value, yAxis = f.Px(1).Value;
     Draw3DText(s, f.pPix, f.HScroll1.Value, r1, g1, b1, f.HS1(3).Value, f.HS1(4).Value, f.HS1(5).Value, xAxis,
-               yAxis, f.Text1.Text);
+               yAxis, text, &run);
   });
 }
 

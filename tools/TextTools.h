@@ -11,6 +11,7 @@
 namespace qp {
 
 class PictureBox;
+class TextRun;
 
 // ---- Text Brush ----
 // One stamp of Text1 at the canvas's print position, which it leaves behind the printed text.
@@ -21,9 +22,11 @@ ToolHooks textBrushHooks();
 // ---- 3D Text ----
 // The stack of `depth` layers of `text` on `surface`, centred on vWid, vHgt, from the back colour
 // (r1, g1, b1) to the front colour (r2, g2, b2), each layer shifted by the axes in tenths of a
-// unit. The colour and axis arguments are the caller's and are changed by the drawing.
+// unit. The colour and axis arguments are the caller's and are changed by the drawing. With a
+// `run` that follows the text, each layer draws only what lands on the surface.
 void Draw3DText(Session& s, PictureBox& surface, Single depth, Single& r1, Single& g1, Single& b1,
-                Single r2, Single g2, Single b2, Single& xAxis, Single& yAxis, const QString& text);
+                Single r2, Single g2, Single b2, Single& xAxis, Single& yAxis, const QString& text,
+                const TextRun* run = nullptr);
 // Draw3DText on pPix with the values of the hidden bars and Text1.
 void RedrawText3D(Session& s);
 void Text1_Change(Session& s);
