@@ -34,7 +34,7 @@ Colour backBehind(const Control* c) {
 // frame that holds it (the frame clips what lies outside).
 QString cutOf(FormView& view, Control* c) {
   QWidget* w = view.widgetFor(c);
-  if (!w || !w->isVisibleTo(&view.window()) || w->width() <= 0) return {};
+  if (!w || !w->isVisibleTo(&view.window())) return {};
   QWidget* holder = c->parent() ? view.widgetFor(c->parent()) : nullptr;
   if (holder && !QRect(QPoint(), holder->size()).contains(w->geometry()))
     return QString("%1 lies outside %2").arg(c->key(), c->parent()->key());
