@@ -20,6 +20,7 @@ void resetPanel(Session& s) {
   f.DrawShape.BorderStyle = 3;
   f.fBow.Visible = false;
   f.lHelp.Caption = "";
+  f.lTell.Caption = "";  // the state line spoke of the mode before
   f.PointerShape = 2;  // a mode change always brings back the cross
   f.ckVal.Enabled = true;
   f.ckVal2.Enabled = true;
@@ -58,8 +59,12 @@ void resetPanel(Session& s) {
   f.ckHoriz.Visible = false;
   f.Shadow(8).Visible = false;
   f.Shadow(9).Visible = false;
+  // The help line goes back under the fifth row, and the panel reaches down to it, so that a mode
+  // that keeps the height of the mode before still shows all its rows.
   f.lHelpb.Top = 3600;
   f.lHelp.Top = 3615;
+  f.fVal.Height = 3600;
+  FitHelpLine(s);
   f.ckHide.Visible = true;
   f.Shadow(38).Visible = true;
   for (int n = 1; n <= 5; ++n) {

@@ -1,5 +1,7 @@
 #include "core/Panel.h"
 
+#include <algorithm>
+
 #include "core/Grid.h"
 #include "ui/frmCanvas.h"
 
@@ -12,11 +14,20 @@ void SizeControlPanel(Session& s) {
     const int rows = f.PanelRows;
     if (rows > 4) return;  // no such height class: the routine's trap ends it
     f.PanelHeight = kHeights[rows];
+    // The panel's frame is as tall as its rows need: a shorter frame would cut off the lower rows.
+    f.fVal.Height = f.PanelHeight;
     f.lHelpb.Top = f.PanelHeight;
-    f.lHelpb.Height = f.fVal.Height;
-    f.lHelp.Height = f.lHelpb.Height;
     f.lHelp.Top = f.PanelHeight + 15;
+    FitHelpLine(s);
   });
+}
+
+void FitHelpLine(Session& s) {
+  frmCanvas& f = s.f;
+  // The longest help texts wrap to many lines in the narrow column: the help line takes all the
+  // room down to the state line, wherever the panel above it ends.
+  f.lHelpb.Height = std::max<Single>(0, f.lTell.Top - f.lHelpb.Top);
+  f.lHelp.Height = f.lHelpb.Height;
 }
 
 void ShowValueRow(Session& s, int n) {

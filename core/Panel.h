@@ -5,6 +5,8 @@
 namespace qp {
 
 void SizeControlPanel(Session& s);
+// Gives the help line and its shadow the room between their top and the state line.
+void FitHelpLine(Session& s);
 void ShowValueRow(Session& s, int n);  // ShowValueRow1 .. ShowValueRow4 (and 5)
 inline void ShowValueRow1(Session& s) { ShowValueRow(s, 1); }
 inline void ShowValueRow2(Session& s) { ShowValueRow(s, 2); }

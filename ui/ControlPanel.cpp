@@ -85,9 +85,9 @@ ControlPanel::ControlPanel(Form& f, Frame& strip)
   lStats.ForeColor = 0xC0C0C0;
   lStats.Alignment = 2;
   // The state line carries whole sentences ("Click arrows to set Aspect ratio   Current Aspect : 5"),
-  // which the panel has no room for: it wraps them in the left column, under the tallest help text,
-  // in a colour that reads on the window's own background there.
-  place(lTell, 0, 6120, 1425, 1200);
+  // which the panel has no room for: it wraps them at the foot of the left column, under the help
+  // text, in a colour that reads on the window's own background there.
+  place(lTell, 0, 7920, 1425, 1020);
   lTell.BackStyle = 0;
   lTell.ForeColor = 0x800000;
   lTell.Alignment = 2;
@@ -143,7 +143,7 @@ ControlPanel::ControlPanel(Form& f, Frame& strip)
   place(cCan, 12120, 600, 1300, 285);
   cCan.Caption = "Draw";
   cCan.Visible = false;
-  place(Shadow(20), 12090, 585, 1365, 315);
+  place(Shadow(20), 12090, 585, 1350, 315);  // to the strip's right edge, not past it
   place(cSwap, 10960, 600, 1100, 255);
   cSwap.Caption = "Swap Colors";
   cSwap.Visible = false;

@@ -29,7 +29,7 @@ TextPanels::TextPanels(Form& f, ControlPanel& panel)
   place(lFont, 2640, 900, 360, 225);  // up to the depth box: "120" at most
   lFont.Caption = "24";
   lFont.BackStyle = 0;
-  lFont.ForeColor = 0xFFFFFF;
+  lFont.ForeColor = panel.fText.ForeColor;  // read on the frame's own background
 
   place(pCount, 3000, 240, 375, 900);
   pCount.AutoRedraw = false;
@@ -56,7 +56,7 @@ TextPanels::TextPanels(Form& f, ControlPanel& panel)
   place(lShadFnt, 3960, 780, 450, 225);
   lShadFnt.Caption = "12";
   lShadFnt.BackStyle = 0;
-  lShadFnt.ForeColor = 0xFFFFFF;
+  lShadFnt.ForeColor = panel.fShad.ForeColor;
   place(Text2, 120, 2640, 4200, 285);
   Text2.Text = "Quillora";
 

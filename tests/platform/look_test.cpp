@@ -10,6 +10,7 @@
 #include <QRadioButton>
 #include <QStyleOptionButton>
 
+#include "core/HelpTexts.h"
 #include "core/PaintModes.h"
 #include "platform/Headless.h"
 #include "platform/qt/FormView.h"
@@ -18,43 +19,63 @@
 namespace qp {
 namespace {
 
-// The captions of the shown controls that do not fit, as "name: caption (room)", joined.
+// The colour a label's text stands on: its own, or, when it lets the background through, that of
+// the nearest container that paints one.
+Colour backBehind(const Control* c) {
+  auto* v = dynamic_cast<const VisualControl*>(c);
+  auto* l = dynamic_cast<const Label*>(c);
+  if (l && l->BackStyle == 0 && c->parent()) return backBehind(c->parent());
+  if (l && l->BackStyle == 0) return c->form()->BackColor;
+  return v ? v->BackColor.get() : c->form()->BackColor.get();
+}
+
+// Why the shown control cannot be read whole, as "name: ..."; empty when it can. A caption must fit
+// its control, its text must differ from the colour behind it, and the control must lie within the
+// frame that holds it (the frame clips what lies outside).
+QString cutOf(FormView& view, Control* c) {
+  QWidget* w = view.widgetFor(c);
+  if (!w || !w->isVisibleTo(&view.window())) return {};
+  QWidget* holder = c->parent() ? view.widgetFor(c->parent()) : nullptr;
+  if (holder && !QRect(QPoint(), holder->size()).contains(w->geometry()))
+    return QString("%1 lies outside %2").arg(c->key(), c->parent()->key());
+  const QFontMetrics fm = w->fontMetrics();
+  QString text;
+  bool fits = true;
+  QSize need, room = w->size();
+  if (auto* b = qobject_cast<QAbstractButton*>(w)) {
+    // The caption is drawn into the button's contents rectangle, beside any check mark.
+    text = b->text();
+    QStyleOptionButton opt;
+    opt.initFrom(b);
+    opt.text = text;
+    const auto element = qobject_cast<QCheckBox*>(b)      ? QStyle::SE_CheckBoxContents
+                         : qobject_cast<QRadioButton*>(b) ? QStyle::SE_RadioButtonContents
+                                                          : QStyle::SE_PushButtonContents;
+    room = b->style()->subElementRect(element, &opt, b).size();
+    need = QSize(fm.horizontalAdvance(text), 0);
+    fits = need.width() <= room.width();
+  } else if (auto* g = qobject_cast<QGroupBox*>(w)) {
+    text = g->title();
+    need = QSize(fm.horizontalAdvance(text), 0);
+    fits = need.width() <= g->width();
+  } else if (auto* l = dynamic_cast<Label*>(c)) {
+    // A label wraps at word breaks: every line must fit across, and all of them down.
+    text = l->Caption;
+    if (!text.trimmed().isEmpty() && l->ForeColor.get() == backBehind(c))
+      return QString("%1: \"%2\" in the colour behind it").arg(c->key(), text.left(40));
+    need = fm.boundingRect(w->rect(), Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, text).size();
+    fits = need.width() <= w->width() && need.height() <= w->height();
+  }
+  if (text.trimmed().isEmpty() || fits) return {};
+  return QString("%1: \"%2\" needs %3 x %4, has %5 x %6")
+      .arg(c->key(), text.left(40)).arg(need.width()).arg(need.height()).arg(room.width()).arg(room.height());
+}
+
 std::string cutCaptions(FormView& view) {
   view.sync();
   QStringList cut;
-  for (Control* c : view.form().controls()) {
-    QWidget* w = view.widgetFor(c);
-    if (!w || !w->isVisibleTo(&view.window()) || w->width() <= 0) continue;
-    const QFontMetrics fm = w->fontMetrics();
-    QString text;
-    bool fits = true;
-    QSize need, room = w->size();
-    if (auto* b = qobject_cast<QAbstractButton*>(w)) {
-      // The caption is drawn into the button's contents rectangle, beside any check mark.
-      text = b->text();
-      QStyleOptionButton opt;
-      opt.initFrom(b);
-      opt.text = text;
-      const auto element = qobject_cast<QCheckBox*>(b)      ? QStyle::SE_CheckBoxContents
-                           : qobject_cast<QRadioButton*>(b) ? QStyle::SE_RadioButtonContents
-                                                            : QStyle::SE_PushButtonContents;
-      room = b->style()->subElementRect(element, &opt, b).size();
-      need = QSize(fm.horizontalAdvance(text), 0);
-      fits = need.width() <= room.width();
-    } else if (auto* g = qobject_cast<QGroupBox*>(w)) {
-      text = g->title();
-      need = QSize(fm.horizontalAdvance(text), 0);
-      fits = need.width() <= g->width();
-    } else if (c->kind() == ControlKind::Label) {
-      // A label wraps at word breaks: every line must fit across, and all of them down.
-      text = static_cast<Label*>(c)->Caption;
-      need = fm.boundingRect(w->rect(), Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, text).size();
-      fits = need.width() <= w->width() && need.height() <= w->height();
-    }
-    if (!text.trimmed().isEmpty() && !fits)
-      cut << QString("%1: \"%2\" needs %3 x %4, has %5 x %6")
-                 .arg(c->key(), text.left(40)).arg(need.width()).arg(need.height()).arg(room.width()).arg(room.height());
-  }
+  for (Control* c : view.form().controls())
+    if (const QString why = cutOf(view, c); !why.isEmpty()) cut << why;
   return cut.join("; ").toStdString();
 }
 
@@ -92,10 +113,48 @@ TEST(WindowLook, EveryCaptionFitsItsControlInEveryMode) {
     t.bar->Value = t.value;
     ASSERT_TRUE(f.lTell.Caption.get().startsWith("Click arrows")) << f.lTell.Caption.get().toStdString();
     EXPECT_EQ(cutCaptions(main), "") << "in " << t.mode->Caption.get().toStdString();
+    // The next mode starts with its own state line, not this mode's last sentence.
+    f.mPencil.raiseClick();
+    h.loop.advance(50);
+    EXPECT_EQ(f.lTell.Caption.get().toStdString(), "") << "after " << t.mode->Caption.get().toStdString();
   }
   program.f.mnuSave.raiseClick();
   EXPECT_TRUE(program.w.file.Visible);
   EXPECT_EQ(cutCaptions(file), "");
+}
+
+// The help line holds the longest of its texts whole, in every mode: the mode's own help and the
+// sentences that the pointer brings up as it passes over each control.
+TEST(WindowLook, EveryHelpTextFitsTheHelpLine) {
+  HeadlessRuntime h;
+  Program program(h.rt());
+  FormView main(program.f);
+  program.start();
+  main.window().show();
+  frmCanvas& f = program.f;
+  auto helpCut = [&] {
+    main.sync();
+    return (cutOf(main, &f.lHelp) + cutOf(main, &f.lHelpb)).toStdString();
+  };
+  for (const PaintModeInfo& mode : paintModes()) {
+    auto* item = dynamic_cast<Menu*>(f.find(mode.menu));
+    if (!item) continue;
+    item->raiseClick();
+    h.loop.advance(50);
+    for (int state = -1; state <= 2; ++state) {
+      const char* text = modeHelpText(mode.number, state);
+      if (!text) continue;
+      f.lHelp.Caption = text;
+      EXPECT_EQ(helpCut(), "") << "in " << mode.caption << ", state " << state;
+    }
+    for (Control* c : f.controls()) {
+      auto* v = dynamic_cast<VisualControl*>(c);
+      if (!v || !v->MouseMove || v == &f.PicPaint || v == &f.pPix) continue;
+      f.lHelp.Caption = "";
+      v->raiseMouseMove(0, 0, 15, 15);
+      EXPECT_EQ(helpCut(), "") << "in " << mode.caption << ", over " << c->key().toStdString();
+    }
+  }
 }
 
 // What the user can reach in the text frame: the depth and axis boxes of 3D Text lie under a cover
