@@ -130,11 +130,8 @@ TEST_F(DrawingTest, CircleSizesByAspectAndStaysCentred) {
   for (const auto& c : cases) {
     b.Cls();
     b.Circle(c.x, c.y, c.r, kWhite, {}, {}, c.aspect);
-    const QRect r = extent(b, kWhite);
-    EXPECT_NEAR(r.left(), c.outline.left(), 1) << c.r << " / " << c.aspect;
-    EXPECT_NEAR(r.top(), c.outline.top(), 1) << c.r << " / " << c.aspect;
-    EXPECT_NEAR(r.right(), c.outline.right(), 1) << c.r << " / " << c.aspect;
-    EXPECT_NEAR(r.bottom(), c.outline.bottom(), 1) << c.r << " / " << c.aspect;
+    const QRect r = extent(b, kWhite), d(r.topLeft() - c.outline.topLeft(), r.bottomRight() - c.outline.bottomRight());
+    for (int off : {d.left(), d.top(), d.right(), d.bottom()}) EXPECT_LE(std::abs(off), 1) << c.r << " / " << c.aspect;
   }
   EXPECT_EQ(px(b, 200, 200), 0);  // FillStyle 1: outline only
   EXPECT_EQ(b.CurrentX, 200);
@@ -182,10 +179,7 @@ TEST_F(DrawingTest, CircleFillAndArcs) {
 // The hatched fill styles: lines of FillColor on an 8-pixel grid anchored at the bitmap's origin,
 // with the picture beneath showing between them.
 TEST_F(DrawingTest, EachHatchLaysItsLinesOnTheGridOfTheOrigin) {
-  struct Case {
-    int style;
-    bool on[5];  // whether the fill shows at (24,24), (25,24), (24,25), (25,25), (31,25)
-  };
+  struct Case { int style; bool on[5]; };  // whether the fill shows at each point below
   const QPoint at[5] = {{24, 24}, {25, 24}, {24, 25}, {25, 25}, {31, 25}};
   for (const Case& c : {Case{2, {1, 1, 0, 0, 0}}, Case{3, {1, 0, 1, 0, 0}}, Case{4, {1, 0, 0, 1, 0}},
                         Case{5, {1, 0, 0, 0, 1}}, Case{6, {1, 1, 1, 0, 0}}, Case{7, {1, 0, 0, 1, 1}}}) {
