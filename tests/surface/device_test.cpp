@@ -9,12 +9,6 @@ namespace {
 using DeviceTest = SurfaceTest;
 constexpr Colour kWhite = 0xFFFFFF, kRed = 0x0000FF, kGreen = 0x00FF00, kBlue = 0xFF0000;
 
-// Probes: the colour expected at each pixel.
-struct Probe { int x, y; Colour c; };
-void expectAt(const PictureBox& b, std::initializer_list<Probe> probes, const char* what) {
-  for (const Probe& p : probes) EXPECT_EQ(GetPixel(b, p.x, p.y), p.c) << what << " at " << p.x << ", " << p.y;
-}
-
 TEST_F(DeviceTest, PixelsCarryRedInTheLowByte) {
   PictureBox& b = box(10, 10, 1);  // device calls are in pixels whatever the scale
   SetPixel(b, 3, 4, RGB(10, 20, 30));

@@ -56,9 +56,7 @@ TEST_F(DrawingTest, BoxesOutlineAndFilledWithTheLineColour) {
   c.DrawMode = 7;
   c.DrawWidth = 4;
   c.Line(10, 10, 40, 40, kWhite, LineBox::B);
-  EXPECT_EQ(px(c, 10, 10), kWhite);
-  EXPECT_EQ(px(c, 40, 25), kWhite);
-  EXPECT_EQ(px(c, 25, 25), 0);
+  expectAt(c, {{10, 10, kWhite}, {40, 25, kWhite}, {25, 25, 0}});
 }
 
 TEST_F(DrawingTest, WidePensHaveRoundEndsAndKeepTheirWidth) {
@@ -67,8 +65,7 @@ TEST_F(DrawingTest, WidePensHaveRoundEndsAndKeepTheirWidth) {
   b.Line(20, 50, 70, 50, kWhite);
   EXPECT_EQ(extent(b, kWhite), QRect(16, 46, 59, 9));
   EXPECT_EQ(px(b, 16, 46), 0);  // rounded off at the corners of the ends
-  EXPECT_EQ(px(b, 16, 50), kWhite);
-  EXPECT_EQ(px(b, 45, 46), kWhite);
+  expectAt(b, {{16, 50, kWhite}, {45, 46, kWhite}});
   b.Cls();  // diagonal strokes keep their width across the line
   b.Line(20, 20, 80, 80, kWhite);
   int across = 0;
@@ -145,17 +142,14 @@ TEST_F(DrawingTest, CircleFillAndArcs) {
   b.FillStyle = 0;
   b.FillColor = kBlue;
   b.Circle(100, 100, 40, kRed);
-  EXPECT_EQ(px(b, 100, 100), kBlue);
-  EXPECT_EQ(px(b, 140, 100), kRed);
-  EXPECT_EQ(px(b, 60, 100), kRed);
+  expectAt(b, {{100, 100, kBlue}, {140, 100, kRed}, {60, 100, kRed}});
   // An arc from 0 to pi/2 runs counter-clockwise: right, then up.
   b.FillStyle = 1;
   b.Cls();
   b.Circle(100, 100, 50, kWhite, 0.0, pi / 2);
   EXPECT_EQ(extent(b, kWhite).bottom(), 100);
   EXPECT_EQ(extent(b, kWhite).left(), 100);
-  EXPECT_EQ(px(b, 150, 100), kWhite);
-  EXPECT_EQ(px(b, 100, 50), kWhite);
+  expectAt(b, {{150, 100, kWhite}, {100, 50, kWhite}});
   EXPECT_EQ(px(b, 120, 100), 0);  // no radius without a negative angle
   // Negative ends add the radii and close a filled pie slice.
   b.Cls();
@@ -171,8 +165,7 @@ TEST_F(DrawingTest, CircleFillAndArcs) {
   e.FillColor = kGreen;
   e.Circle(50, 30, 40, kWhite, {}, {}, 0.5);  // 80 x 40
   for (const QPoint p : {QPoint(50, 30), QPoint(88, 30), QPoint(50, 48)}) EXPECT_EQ(px(e, p.x(), p.y()), kGreen);
-  EXPECT_EQ(px(e, 50, 52), 0);
-  EXPECT_EQ(px(e, 5, 30), 0);
+  expectAt(e, {{50, 52, 0}, {5, 30, 0}});
   EXPECT_TRUE(QRect(9, 9, 83, 43).contains(extent(e, kGreen)));
 }
 
