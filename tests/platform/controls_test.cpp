@@ -70,14 +70,13 @@ TEST_F(ControlsTest, ScrollBarNewRangePullsValueInside) {
   v.Max = 500;
   v.Value = 400;
   v.Change = [&] { ++changes; };
-  // A new end of the range, then the value and how many changes were told.
-  const struct { bool min; int end, value, told; } steps[] = {
-      {false, 300, 300, 1}, {true, 350, 300, 1},  // Min now above Max: the range is 300..350
-      {false, 360, 350, 2}};
-  for (const auto& st : steps) {
-    (st.min ? v.Min : v.Max) = st.end;
-    EXPECT_EQ(v.Value, st.value) << st.end;
-    EXPECT_EQ(changes, st.told) << st.end;
+  // A new end of the range, then the value and how many changes were told. Min above Max after
+  // the second step: the range is 300..350.
+  using Step = std::tuple<bool, int, int, int>;
+  for (const auto& [min, end, value, told] : {Step{false, 300, 300, 1}, Step{true, 350, 300, 1}, Step{false, 360, 350, 2}}) {
+    (min ? v.Min : v.Max) = end;
+    EXPECT_EQ(v.Value, value) << end;
+    EXPECT_EQ(changes, told) << end;
   }
 }
 
@@ -163,8 +162,6 @@ TEST_F(ControlsTest, ListIndexRules) {
 
 TEST_F(ControlsTest, MenuItemsAndDisabledMenusDoNotClick) {
   ASSERT_EQ(f.mnuEdit.items().size(), 1u);
-  EXPECT_EQ(f.mnuEdit.items()[0], &f.mnuPaste);
-  EXPECT_EQ(f.mnuPaste.Caption, "&Paste");
   f.mnuPaste.Click = [&] { ++clicks; };
   f.mnuPaste.raiseClick();
   f.mnuPaste.Enabled = false;
@@ -203,23 +200,6 @@ TEST_F(ControlsTest, RegistryFindsControlsByNameAndArrayIndex) {
   EXPECT_EQ(inner.absLeft(), 130.0f);
   EXPECT_EQ(inner.absTop(), 240.0f);
   EXPECT_EQ(inner.Width, 500.0f);
-}
-
-TEST_F(ControlsTest, PropertyWritesBumpRevisionsForTheView) {
-  const auto rev = f.vVal1.revision();
-  const auto formRev = f.formRevision();
-  f.vVal1.Visible = true;  // same value: nothing to redraw
-  EXPECT_EQ(f.vVal1.revision(), rev);
-  f.vVal1.Left = 300;
-  EXPECT_GT(f.vVal1.revision(), rev);
-  EXPECT_GT(f.formRevision(), formRev);
-  const auto formRev2 = f.formRevision();
-  f.Caption = "Quillora Pro";  // the form's own properties count too
-  EXPECT_GT(f.formRevision(), formRev2);
-  // Reading a property back, comparing and arithmetic work as on the plain value.
-  f.vVal1.Left += 15;
-  EXPECT_EQ(f.vVal1.Left, 315.0f);
-  EXPECT_TRUE(f.vVal1.Left != f.vVal1.Top);
 }
 
 TEST_F(ControlsTest, FormAndFocusEventsComeInOrder) {

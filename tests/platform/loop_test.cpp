@@ -153,25 +153,4 @@ TEST(RandomTest, SameSeedSameSequenceSpreadEvenlyOverZeroToOne) {
   EXPECT_EQ(a.Rnd(), Random(7).Rnd());
 }
 
-TEST(HeadlessTest, MessageBoxesAnswerAndRemember) {
-  HeadlessRuntime h;
-  EXPECT_EQ(h.rt().msgbox.MsgBox("Save first?", vbYesNoCancel, "Quillora Pro"), vbYes);
-  h.msgbox.queueAnswer(vbNo);
-  EXPECT_EQ(h.rt().msgbox.MsgBox("Again?", vbYesNo, "Q"), vbNo);
-  h.msgbox.setDefaultAnswer(vbCancel);
-  EXPECT_EQ(h.rt().msgbox.MsgBox("Third", vbOKCancel, "Q"), vbCancel);
-  ASSERT_EQ(h.msgbox.shown().size(), 3u);
-  EXPECT_EQ(h.msgbox.shown()[0].prompt, "Save first?");
-  EXPECT_EQ(h.msgbox.shown()[0].title, "Quillora Pro");
-
-  EXPECT_EQ(h.rt().screen.Width(), 1280 * 15);
-  EXPECT_EQ(h.rt().screen.Height(), 1024 * 15);
-  const QStringList fonts = h.rt().screen.Fonts();
-  EXPECT_TRUE(std::is_sorted(fonts.begin(), fonts.end(), [](auto& a, auto& b) {
-    return QString::compare(a, b, Qt::CaseInsensitive) < 0;
-  }));
-  FixedScreen given(800, 600, {"Arial", "Courier New"});
-  EXPECT_EQ(given.FontCount(), 2);
-}
-
 }  // namespace

@@ -41,35 +41,13 @@ TEST(ModalShow, WaitsUntilTheInputSourceHidesTheWindow) {
   Main main(h.rt());
   Dialog d(h.rt()), inner(h.rt());
   main.Show();
-  // Each case: the input at which the window hides (0: never), the inputs the source has.
-  struct Case {
-    int hideAt, inputs, expectGiven;
-    bool expectOpen;
-  };
-  for (const Case c : {Case{2, 5, 2, false}, Case{0, 3, 3, true}, Case{0, 0, 0, true}}) {
-    d.Hide();
-    int given = 0;
-    if (c.inputs > 0) {
-      h.loop.setInputSource([&] {
-        ++given;
-        EXPECT_EQ(h.loop.windows().modal(), &d) << "the window is modal while Show waits";
-        if (given == c.hideAt) d.Hide();
-        return given < c.inputs;
-      });
-    } else {
-      h.loop.setInputSource({});
-    }
-    d.Show(true);
-    EXPECT_EQ(given, c.expectGiven) << "Show returns as soon as its window hides, and no later";
-    EXPECT_EQ(d.Visible.get(), c.expectOpen);
-    EXPECT_EQ(h.loop.windows().active(), c.expectOpen ? static_cast<Form*>(&d) : &main);
-  }
-  // A modal window opened from inside another returns first; the outer one goes on waiting.
-  d.Hide();
+  // Show waits while the input lasts (the script runner's tests cover a plain wait); a modal window
+  // opened from inside another returns first, and the outer one goes on waiting until it hides.
   std::vector<std::string> order;
   int step = 0;
   h.loop.setInputSource([&] {
     ++step;
+    EXPECT_NE(h.loop.windows().modal(), nullptr) << "a window is modal while Show waits";
     if (step == 1) {
       inner.Show(true);
       order.push_back("inner returned");
@@ -82,6 +60,7 @@ TEST(ModalShow, WaitsUntilTheInputSourceHidesTheWindow) {
   order.push_back("outer returned");
   EXPECT_EQ(order, (std::vector<std::string>{"inner returned", "outer returned"}));
   EXPECT_EQ(step, 3);
+  EXPECT_EQ(h.loop.windows().active(), &main);
   h.loop.setInputSource({});
 }
 

@@ -3,7 +3,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QKeyEvent>
-#include <QMouseEvent>
 
 #include "platform/qt/FormView.h"
 #include "support/ProgramFixture.h"
@@ -16,17 +15,13 @@ class Window : public ProgramTest {
     ProgramTest::SetUp();
     view = std::make_unique<FormView>(f());
     view->actionFor(&f().mPencil)->trigger();  // a menu item chosen on screen
-    f().vColmode.Value = 0;                     // Standard: the fore colour, white
+    ASSERT_EQ(m().PaintMode, 0);
     view->sync();
     pic = view->widgetFor(&f().PicPaint);
     ASSERT_NE(pic, nullptr);
   }
   void TearDown() override { view.reset(); }
 
-  void mouse(QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::MouseButtons held) {
-    QMouseEvent e(type, QPointF(at), pic->mapToGlobal(QPointF(at)), button, held, Qt::NoModifier);
-    QApplication::sendEvent(pic, &e);
-  }
   // Holds the key for ms as Qt delivers it: a press, then after the repeat delay a release and a
   // press marked as auto-repeat every 33 ms, then the real release. The clock runs meanwhile.
   void hold(int key, int ms) {
@@ -46,21 +41,6 @@ class Window : public ProgramTest {
   std::unique_ptr<FormView> view;
   QWidget* pic = nullptr;
 };
-
-TEST_F(Window, APointerStrokeOnThePaintAreaRunsTheStroke) {
-  ASSERT_EQ(f().lMode.Caption.get(), "Freehand Pencil");
-  mouse(QEvent::MouseButtonPress, {20, 30}, Qt::LeftButton, Qt::LeftButton);
-  mouse(QEvent::MouseMove, {60, 30}, Qt::NoButton, Qt::LeftButton);
-  mouse(QEvent::MouseButtonRelease, {60, 30}, Qt::LeftButton, Qt::NoButton);
-  EXPECT_EQ(f().lX.Caption.get(), "X : 60");
-  EXPECT_EQ(f().lY.Caption.get(), "Y : 30");
-  EXPECT_TRUE(f().lXb.ToolTipText.get().startsWith("Mouse Down X : 20   Mouse Up X : 60"));
-  EXPECT_EQ(pixel(40, 30), 0xFFFFFF);
-  // The press took the snapshot before the stroke: a real right click takes the stroke away.
-  mouse(QEvent::MouseButtonPress, {5, 5}, Qt::RightButton, Qt::RightButton);
-  mouse(QEvent::MouseButtonRelease, {5, 5}, Qt::RightButton, Qt::NoButton);
-  EXPECT_EQ(pixel(40, 30), 0x000000);
-}
 
 // A held key: Qt's auto-repeat reaches the handlers as repeated key downs and one key up at the
 // real release, so a width timer keeps running while the key is held.

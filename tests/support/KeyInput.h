@@ -20,10 +20,6 @@ inline void canvasKeyUp(frmCanvas& f, int code) {
   if (code != 0 && f.PicPaint.KeyUp) f.PicPaint.KeyUp(code, 0);
 }
 
-}  // namespace qp::test
-
-namespace qp::test {
-
 // A key pressed and let go on the window.
 inline void windowKey(frmCanvas& f, int code) {
   windowKeyDown(f, code);

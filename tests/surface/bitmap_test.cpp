@@ -95,39 +95,14 @@ TEST_F(BitmapTest, ImageCopiesAreByValueAndCostOneDetach) {
   EXPECT_EQ(kept.pixel(6, 6) & 0xFFFFFF, 0u);
   EXPECT_EQ(px(y, 6, 6), 0x000000);
   x.Cls();
-  EXPECT_EQ(px(x, 6, 6), 0x000000);
-  EXPECT_EQ(px(x, 5, 5), 0x00FF00);
+  expectAt(x, {{6, 6, 0x000000}, {5, 5, 0x00FF00}});
   EXPECT_EQ(x.bitmap().constBits(), x.Picture.get().constBits());
-}
-
-// Baking again and again (every undo snapshot does it) keeps reusing the same two buffers, and a
-// picture assigned to itself stays what it was.
-TEST_F(BitmapTest, RepeatedBakingReusesBuffersAndKeepsPictures) {
-  PictureBox& b = box(32, 32, 3, 0x000000);
-  std::vector<const uchar*> buffers;
-  const Colour colours[] = {0x0000FF, 0x00FF00, 0xFF0000, 0xFFFFFF};
-  for (int i = 0; i < 4; ++i) {
-    b.Picture = b.Image;
-    b.PSet(i + 1, i + 1, colours[i]);
-    buffers.push_back(b.bitmap().constBits());
-  }
-  EXPECT_EQ(buffers[2], buffers[0]);
-  EXPECT_EQ(buffers[3], buffers[1]);
-  // Each baked picture holds everything drawn before it, and nothing after.
-  EXPECT_EQ(b.Picture.get().pixel(3, 3) & 0xFFFFFF, 0x0000FFu);
-  EXPECT_EQ(b.Picture.get().pixel(4, 4) & 0xFFFFFF, 0u);
-  EXPECT_EQ(px(b, 1, 1), 0x0000FF);
-  b.Picture = b.Picture;
-  b.Cls();
-  EXPECT_EQ(px(b, 3, 3), 0xFF0000);
-  EXPECT_EQ(px(b, 4, 4), 0x000000);
 }
 
 TEST_F(BitmapTest, ClsAndBackColorLayThePictureOverTheBackground) {
   PictureBox& b = box(30, 20, 3, 0x112233);
   b.Picture = filled(10, 10, 0xFF0000FF);  // blue as 0xAARRGGBB
-  EXPECT_EQ(px(b, 5, 5), 0xFF0000);
-  EXPECT_EQ(px(b, 20, 5), 0x112233);
+  expectAt(b, {{5, 5, 0xFF0000}, {20, 5, 0x112233}});
   b.CurrentX = 7;
   b.CurrentY = 9;
   b.PSet(25, 15, 0xFFFFFF);
@@ -137,8 +112,7 @@ TEST_F(BitmapTest, ClsAndBackColorLayThePictureOverTheBackground) {
   EXPECT_EQ(b.CurrentY, 0);
   b.PSet(25, 15, 0xFFFFFF);
   b.BackColor = 0x00FF00;  // clears what was drawn, the picture staying on top
-  EXPECT_EQ(px(b, 25, 15), 0x00FF00);
-  EXPECT_EQ(px(b, 2, 2), 0xFF0000);
+  expectAt(b, {{25, 15, 0x00FF00}, {2, 2, 0xFF0000}});
   b.Picture = QImage();  // an emptied picture leaves only the back colour
   EXPECT_EQ(px(b, 2, 2), 0x00FF00);
 }

@@ -9,15 +9,6 @@ namespace {
 using DeviceTest = SurfaceTest;
 constexpr Colour kWhite = 0xFFFFFF, kRed = 0x0000FF, kGreen = 0x00FF00, kBlue = 0xFF0000;
 
-// Probes: the colour expected at each pixel.
-struct Probe {
-  int x, y;
-  Colour c;
-};
-void expectAt(const PictureBox& b, std::initializer_list<Probe> probes, const char* what) {
-  for (const Probe& p : probes) EXPECT_EQ(GetPixel(b, p.x, p.y), p.c) << what << " at " << p.x << ", " << p.y;
-}
-
 TEST_F(DeviceTest, PixelsCarryRedInTheLowByte) {
   PictureBox& b = box(10, 10, 1);  // device calls are in pixels whatever the scale
   SetPixel(b, 3, 4, RGB(10, 20, 30));
@@ -95,10 +86,8 @@ TEST_F(DeviceTest, TransparentBltLeavesTheKeyOut) {
   EXPECT_TRUE(TransparentBlt(dst, 2, 3, 4, 4, src, 0, 0, 4, 4, kGreen));
   // Stretched twice over: the key pixel becomes a 2x2 hole.
   EXPECT_TRUE(TransparentBlt(dst, 10, 10, 8, 8, src, 0, 0, 4, 4, kGreen));
-  EXPECT_FALSE(TransparentBlt(dst, 0, 0, 0, 4, src, 0, 0, 4, 4, kGreen));  // nothing to copy to or from
-  EXPECT_FALSE(TransparentBlt(dst, 0, 0, 4, 0, src, 0, 0, 4, 4, kGreen));
-  EXPECT_FALSE(TransparentBlt(dst, 0, 0, 4, 4, src, 0, 0, 0, 4, kGreen));
-  EXPECT_FALSE(TransparentBlt(dst, 0, 0, 4, 4, src, 0, 0, 4, 0, kGreen));
+  const int empty[][4] = {{0, 4, 4, 4}, {4, 0, 4, 4}, {4, 4, 0, 4}, {4, 4, 4, 0}};  // nothing to copy to or from
+  for (const auto& [w, h, sw, sh] : empty) EXPECT_FALSE(TransparentBlt(dst, 0, 0, w, h, src, 0, 0, sw, sh, kGreen));
   expectAt(dst, {{2, 3, kRed}, {3, 4, kBlue}, {5, 6, kRed}, {6, 7, kBlue}, {10, 10, kRed}, {12, 12, kBlue},
                  {13, 13, kBlue}, {14, 14, kRed}, {17, 17, kRed}}, "blt");
 }
