@@ -76,8 +76,6 @@ TEST(Tiling, DoubleStylesWithoutASecondImageAndBadCountsDrawNothing) {
     TilePicture(out, halves(), QImage(), style, wide, high);
     EXPECT_EQ(out, filled(20, 20, kBlack)) << style;
   }
-  EXPECT_EQ(TileStyleName(3), "Full Alterenating Reversed");
-  EXPECT_EQ(TileStyleName(9), "Double Interaced");
 }
 
 // ---- blending ----------------------------------------------------------------------------------

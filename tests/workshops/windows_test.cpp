@@ -48,6 +48,13 @@ class WorkshopTest : public ProgramTest {
     dialog().cmdOK.raiseClick();
     return QDir(folder.path()).filePath(name + ".bmp");
   }
+  // A file of the test's folder pressed in a workshop's Explorer panel, then taken by `take`.
+  void pressFile(WorkshopExplorer& x, const QString& name, CommandButton* take = nullptr) {
+    x.Dir1.Path = folder.path();
+    x.File1.ListIndex = static_cast<int>(x.File1.items().indexOf(name));
+    x.File1.raiseMouseDown(vbLeftButton, 0, 0, 0);
+    (take ? *take : x.cKay).raiseClick();
+  }
   QTemporaryDir folder;
 };
 
@@ -109,12 +116,6 @@ TEST_F(WorkshopTest, TheExplorerPanelLoadsWhatItPreviewsAndPassesOverABrokenFile
   ASSERT_TRUE(bad.open(QIODevice::WriteOnly));
   bad.write("BM not a picture");
   bad.close();
-  auto pressFile = [&](WorkshopExplorer& x, const QString& name) {
-    x.Dir1.Path = folder.path();
-    x.File1.ListIndex = static_cast<int>(x.File1.items().indexOf(name));
-    x.File1.raiseMouseDown(vbLeftButton, 0, 0, 0);
-    x.cKay.raiseClick();
-  };
   choose(f().mTileSet);
   tile().mLoadImg.raiseClick();
   ASSERT_TRUE(tile().fX.Visible);
@@ -139,10 +140,7 @@ TEST_F(WorkshopTest, TheBackgroundShowsThroughTheOpenCellsOfTheCheckeredStyles) 
   solid(4, 4, 0xFF0000FF).save(QDir(folder.path()).filePath("bg.bmp"), "BMP");
   choose(f().mTileSet);
   tile().mLdBg.raiseClick();
-  tile().explorer.Dir1.Path = folder.path();
-  tile().explorer.File1.ListIndex = static_cast<int>(tile().explorer.File1.items().indexOf("bg.bmp"));
-  tile().explorer.File1.raiseMouseDown(vbLeftButton, 0, 0, 0);
-  tile().cBG.raiseClick();
+  pressFile(tile().explorer, "bg.bmp", &tile().cBG);
   ASSERT_TRUE(tile().ckBG.Visible);
   paste(tile().mPaste, solid(4, 4, 0xFFFF0000));
   // Style 8 at the preset 7 x 7 leaves the second cell of the first row open.
@@ -249,6 +247,7 @@ TEST_F(WorkshopTest, EverySaveModeWritesItsOwnPicture) {
   blend().cGo.raiseClick();
   blend().mSave.raiseClick();
   EXPECT_EQ(QImage(saveAs("bluescreen")).pixel(5, 5), qRgb(9, 9, 9));
+  EXPECT_EQ(m().CurrentFile, "");  // a workshop's picture never names the canvas
 }
 
 TEST_F(WorkshopTest, ASaveThatCannotBeWrittenLeavesTheDialogOpen) {
