@@ -107,21 +107,9 @@ QByteArray encode(const QImage& picture, const char* format, int quality) {
 }
 
 QByteArray bitmapBytes(int w, int h, int claimedW, int claimedH, int bitsPerPixel) {
-  const int row = ((w * 3) + 3) & ~3;
-  const int pixels = row * std::abs(h);
-  QByteArray b(54 + pixels, '\0');
-  b[0] = 'B';
-  b[1] = 'M';
-  put32(b, 2, 54 + pixels);
-  put32(b, 10, 54);
-  put32(b, 14, 40);
-  put32(b, 18, claimedW);
-  put32(b, 22, claimedH);
-  put16(b, 26, 1);
-  put16(b, 28, bitsPerPixel);
-  put32(b, 34, pixels);
-  for (int i = 0; i < pixels; ++i) b[54 + i] = static_cast<char>((i * 7) & 0xFF);
-  return b;
+  QByteArray pixels((((w * 3) + 3) & ~3) * std::abs(h), '\0');
+  for (int i = 0; i < pixels.size(); ++i) pixels[i] = static_cast<char>((i * 7) & 0xFF);
+  return bitmapFile(claimedW, claimedH, bitsPerPixel, 0, pixels);
 }
 
 Corpus makeCorpus(const QString& folder) {
@@ -134,10 +122,8 @@ Corpus makeCorpus(const QString& folder) {
   };
   const QByteArray bmp = encode(patternPicture(23, 17), "BMP");
   const QByteArray jpg = encode(patternPicture(40, 30), "JPEG", 80);
-  const QByteArray progressive = [&] {
-    // A second JPEG of another size, so that truncations meet other parts of the stream.
-    return encode(patternPicture(9, 64), "JPEG", 20);
-  }();
+  // A second JPEG of another size, so that truncations meet other parts of the stream.
+  const QByteArray progressive = encode(patternPicture(9, 64), "JPEG", 20);
 
   c.good = dir.filePath("good.bmp");
   write(c.good, bmp);

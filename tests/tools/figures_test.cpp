@@ -51,15 +51,10 @@ struct FigureCase {
 TEST_F(FigureTest, EachFigurePaintsOnItsOwnSideOfThePointer) {
   const std::vector<FigureCase> cases = {
       {0, {{-45, 0}, {45, 0}}, {{0, 45}}},                   // Horizontal
-      {1, {{0, -45}, {0, 45}}, {{45, 0}}},                   // Vertical
       {2, {{30, 30}}, {{-30, 30}, {30, -30}}},               // Backslash: down to the right
-      {3, {{-30, 30}}, {{30, 30}, {-30, -30}}},              // Fwdslash: down to the left
       {5, {{0, 120}, {-60, 60}}, {{0, -120}, {-60, -60}}},   // Box hangs below
-      {7, {{0, -120}, {0, 120}}, {{0, -180}}},               // Tall Box
       {8, {{240, 0}}, {{0, -200}}},                          // Long Ellipse: wide
-      {9, {{0, -240}}, {{200, 0}}},                          // Tall Ellipse: high
       {24, {{0, -240}}, {{0, 240}}},                         // Spear Up
-      {25, {{0, 240}}, {{0, -240}}},                         // Spear Down
       {32, {{0, 100}, {0, -235}}, {{0, 235}}},               // Tree: trunk below, top above
       {46, {{-120, 0}, {0, -120}, {-60, 0}}, {{120, 0}, {0, 120}, {60, 0}}},  // 1/4: upper left, with radii
       {55, {{-240, 0}, {0, 240}, {240, 0}}, {{100, 100}}},   // Scope

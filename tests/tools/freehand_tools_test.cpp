@@ -34,10 +34,8 @@ class ShadowDrawTest : public ToolTest {
 };
 
 TEST_F(ShadowDrawTest, TheTrackIsInTheBackColourAndTheCopiesFollowTheBoxes) {
-  struct Case {
-    int shadow, third, offset;
-    std::vector<Colour> seen;  // at -2O, -O, the track, +O, +2O (offsets of 40 pixels)
-  };
+  // seen: at -2O, -O, the track, +O, +2O (offsets of 40 pixels)
+  struct Case { int shadow, third, offset; std::vector<Colour> seen; };
   const Case cases[] = {
       {0, 0, 600, {kBlack, kWhite, kGray, kBlack, kBlack}}, {1, 0, 600, {kBlack, kBlue, kGray, kWhite, kBlack}},
       {1, 1, 600, {kWhite, kBlue, kGray, kWhite, kBlue}},   {0, 1, 600, {kBlue, kWhite, kGray, kWhite, kBlue}},
@@ -114,10 +112,8 @@ class AirBrushTest : public ToolTest {
 };
 
 TEST_F(AirBrushTest, TheTimerSpraysWithinTheSpreadUntilTheRelease) {
-  struct Case {
-    int spread;
-    double atLeast, atMost;  // pixels: rings of 18 twips, up to 18 x spread
-  };
+  // reach in pixels: rings of 18 twips, up to 18 x spread
+  struct Case { int spread; double atLeast, atMost; };
   for (const Case& c : {Case{0, 0, 0}, Case{10, 8, 13}, Case{160, 120, 193}}) {
     enter(f().mAir);
     if (c.spread > 0) f().vVal1.Value = c.spread;

@@ -7,10 +7,8 @@ namespace {
 using LinesTest = ToolTest;
 
 TEST_F(LinesTest, SingleLineDrawsAtReleaseWithItsCopiesUnderneath) {
-  struct Case {
-    int shadow, third, offset;
-    Colour before, on, after;  // at -O, on the line, at +O
-  };
+  // colours at -O, on the line, at +O
+  struct Case { int shadow, third, offset; Colour before, on, after; };
   for (const Case& c : {Case{0, 0, 300, kBlack, kWhite, kBlack}, Case{1, 0, 300, kBlack, kWhite, kGray},
                         Case{0, 1, 300, kBlue, kWhite, kBlack}, Case{1, 1, 300, kBlue, kWhite, kGray},
                         Case{1, 1, 0, kBlack, kWhite, kBlack}}) {  // no offset: the main line lies on top
@@ -46,23 +44,15 @@ TEST_F(LinesTest, MirrorLinesJoinIntoAPolygonWithTheFirstBox) {
 }
 
 TEST_F(LinesTest, CrazyLinezEquationsDrawAndMoveTheLastPoint) {
-  struct Case {
-    int equation;
-    QPoint painted;     // a pixel of the move's line
-    float lastX, lastY;  // the last point after the move
-  };
+  // painted: a pixel of the move's line; last: the last point after the move
+  struct Case { int equation; QPoint painted; float lastX, lastY; };
   // Press at (100, 100), move to (200, 150) pixels.
   for (const Case& c : {Case{2, QPoint(300, 300), 1500, 1500},   // through the centre
                         Case{3, QPoint(150, 100), 3000, 2250},    // across, then advance
                         Case{4, QPoint(100, 125), 3000, 2250},    // down, then advance
                         Case{24, QPoint(150, 125), 1500, 1500},   // a spoke, the press kept
-                        Case{9, QPoint(220, 90), 1500, 1500},     // doubled and halved
                         Case{13, QPoint(380, 300), 1500, 1500},   // four times, past the canvas
-                        Case{18, QPoint(160, 90), 1500, 1500},    // a third
-                        Case{19, QPoint(150, 200), 1500, 1500},
-                        Case{33, QPoint(200, 200), 1500, 1500},
                         Case{36, QPoint(200, 50), 1500, 1500},    // from above the canvas
-                        Case{37, QPoint(150, 50), 1500, 1500},
                         Case{47, QPoint(250, 275), 1500, 1500},   // the second line, to the mirror
                         Case{50, QPoint(150, 125), 2250, 3000},   // the coordinates exchanged
                         Case{51, QPoint(-1, -1), 1500, 1500}}) {  // no such equation
@@ -84,10 +74,7 @@ TEST_F(LinesTest, CrazyLinezEquationsDrawAndMoveTheLastPoint) {
 }
 
 TEST_F(LinesTest, TheMirrorBoxesChooseTheCopies) {
-  struct Case {
-    int vert, horiz, autoDraw;
-    bool drawn, leftRight, topBottom, centre;
-  };
+  struct Case { int vert, horiz, autoDraw; bool drawn, leftRight, topBottom, centre; };
   for (const Case& c : {Case{0, 0, 0, true, false, false, false}, Case{1, 0, 0, true, true, false, false},
                         Case{0, 1, 0, true, false, true, false}, Case{1, 1, 0, true, true, true, true},
                         Case{1, 1, 1, false, false, false, false}}) {  // AutoDraw: the mouse only snapshots

@@ -3,8 +3,7 @@
 #include <QDir>
 #include <QTemporaryDir>
 
-#include "support/ProgramFixture.h"
-#include "surface/Device.h"
+#include "tools/ToolFixture.h"
 #include "tools/PaintWithPix.h"
 
 namespace qp::test {
@@ -82,10 +81,10 @@ TEST_F(TransparentModeTest, AnEmptyBrushPaintsNothing) {
   EXPECT_EQ(f().pPix.Image.get(), before);
 }
 
-class CollageTest : public ProgramTest {
+class CollageTest : public ToolTest {
  protected:
   void SetUp() override {
-    ProgramTest::SetUp();
+    ToolTest::SetUp();
     ASSERT_TRUE(dir.isValid());
     QImage picture(2, 1, QImage::Format_RGB32);
     picture.setPixel(0, 0, qRgb(255, 0, 0));
@@ -102,11 +101,6 @@ class CollageTest : public ProgramTest {
     f().File1.ListIndex = static_cast<int>(f().File1.items().indexOf(name));
     f().File1.raiseMouseDown(vbLeftButton, 0, 0, 0);
     f().cPic.raiseClick();
-  }
-  void drag(int x0, int y0, int x1, int y1) {
-    press(x0 * 15.0f, y0 * 15.0f);
-    move(x1 * 15.0f, y1 * 15.0f);
-    release(x1 * 15.0f, y1 * 15.0f);
   }
   QTemporaryDir dir;
 };

@@ -1,8 +1,7 @@
 // The Selection Tool: what a drag takes, where the float goes, what lands on the canvas when it is
 // set, and how undo, mirror, invert, tiles and the clipboard treat it.
 #include "platform/Headless.h"
-#include "support/ProgramFixture.h"
-#include "surface/Device.h"
+#include "tools/ToolFixture.h"
 #include "tools/Selection.h"
 
 namespace qp::test {
@@ -11,21 +10,14 @@ namespace {
 // Every pixel of the pattern tells where it came from.
 Colour at(int x, int y) { return RGB(x % 256, y % 256, 7); }
 
-class SelectionTest : public ProgramTest {
+class SelectionTest : public ToolTest {
  protected:
   void SetUp() override {
-    ProgramTest::SetUp();
-    choose(f().mPencil);  // the canvas back from the pixel surface of the start mode
+    ToolTest::SetUp();
     QImage pattern(200, 150, QImage::Format_RGB32);
     for (int y = 0; y < 150; ++y)
       for (int x = 0; x < 200; ++x) pattern.setPixel(x, y, qRgb(x % 256, y % 256, 7));
     f().PicPaint.Picture = pattern;
-  }
-  // A drag on the canvas between two pixel positions.
-  void drag(int x0, int y0, int x1, int y1) {
-    press(x0 * 15.0f, y0 * 15.0f);
-    move(x1 * 15.0f, y1 * 15.0f);
-    release(x1 * 15.0f, y1 * 15.0f);
   }
   Colour floatPixel(int x, int y) { return GetPixel(f().pSpire, x, y); }
 };

@@ -14,10 +14,8 @@ class ShapesTest : public ToolTest {
 };
 
 TEST_F(ShapesTest, RectanglesAreOutlinesWithTheirCopiesUnderneath) {
-  struct Case {
-    int shadow, third;
-    Colour atO, at2O;  // on the bottom edge's copies, 20 and 40 pixels further
-  };
+  // colours on the bottom edge's copies, 20 and 40 pixels further
+  struct Case { int shadow, third; Colour atO, at2O; };
   for (const Case& c : {Case{0, 0, kBlack, kBlack}, Case{1, 0, kGray, kBlack}, Case{0, 1, kBlack, kBlue},
                         Case{1, 1, kGray, kBlue}}) {
     shape(0, 0);
@@ -48,10 +46,8 @@ TEST_F(ShapesTest, ADragUnderTwelvePixelsDrawsNothing) {
 }
 
 TEST_F(ShapesTest, CirclesTakeTheirAspectAndTheFillStyle) {
-  struct Case {
-    int fill;
-    Colour onGridRow, offGrid, onGridColumn;  // (300, 200), (300, 201), (304, 201)
-  };
+  // colours at (300, 200), (300, 201), (304, 201)
+  struct Case { int fill; Colour onGridRow, offGrid, onGridColumn; };
   for (const Case& c : {Case{0, kGray, kGray, kGray}, Case{1, kBlack, kBlack, kBlack},
                         Case{2, kGray, kBlack, kBlack}, Case{3, kBlack, kBlack, kGray},
                         Case{6, kGray, kBlack, kGray}}) {

@@ -10,10 +10,7 @@ namespace {
 using ColourSteps = ToolTest;
 
 TEST_F(ColourSteps, EachToolStepsAtItsOwnEvents) {
-  struct Case {
-    Menu frmCanvas::*mode;
-    bool atPress, atMove;
-  };
+  struct Case { Menu frmCanvas::*mode; bool atPress, atMove; };
   for (const Case& c : {Case{&frmCanvas::mGpen, true, true}, Case{&frmCanvas::mAir, true, true},
                         Case{&frmCanvas::mEr, false, true}, Case{&frmCanvas::mSaw, true, true},
                         Case{&frmCanvas::mCrazyLn, true, true}, Case{&frmCanvas::mSingle, false, false},
@@ -37,10 +34,8 @@ TEST_F(ColourSteps, EachToolStepsAtItsOwnEvents) {
 using MoveCost = ToolTest;
 
 TEST_F(MoveCost, AMoveMarksOnlyWhatItDrew) {
-  struct Case {
-    Menu frmCanvas::*mode;
-    QRect bound;  // pixels; empty: the move draws nothing on the picture
-  };
+  // bound in pixels; empty: the move draws nothing on the picture
+  struct Case { Menu frmCanvas::*mode; QRect bound; };
   // Press at (100, 100), move to (200, 110) pixels, on a 600 x 600 canvas.
   for (const Case& c : {Case{&frmCanvas::mGpen, QRect(90, 90, 420, 420)}, Case{&frmCanvas::mEr, QRect(185, 100, 30, 20)},
                         Case{&frmCanvas::mSaw, QRect(95, 95, 125, 25)}, Case{&frmCanvas::mCrazyLn, QRect(95, 95, 110, 20)},

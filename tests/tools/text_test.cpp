@@ -1,24 +1,12 @@
 // The text tools: Text Brush, 3D Text and Shadow Text, through their controls and the clock.
 #include "core/Keyboard.h"
 #include "support/KeyInput.h"
-#include "support/ProgramFixture.h"
+#include "tools/ToolFixture.h"
 
 namespace qp::test {
 namespace {
 
-// A bitmap's pixel as a colour of the program, the pixels of a surface in one colour, and the box
-// around every pixel that is not black.
-Colour colourAt(const QImage& img, int x, int y) {
-  const QRgb p = img.pixel(x, y);
-  return qRed(p) | (qGreen(p) << 8) | (qBlue(p) << 16);
-}
-int count(const PictureBox& p, Colour c) {
-  const QImage& img = p.bitmap();
-  int n = 0;
-  for (int y = 0; y < img.height(); ++y)
-    for (int x = 0; x < img.width(); ++x) n += colourAt(img, x, y) == c;
-  return n;
-}
+// The box around every pixel that is not black.
 QRect inked(const QImage& img) {
   QRect box;
   for (int y = 0; y < img.height(); ++y)
@@ -98,7 +86,7 @@ TEST_F(Text3DTest, TheStackRunsFromOneLayerToSixtyAboutTheSameCentre) {
   EXPECT_NEAR(one.center().x(), 320, 6);
   EXPECT_NEAR(one.center().y(), 240, 8);
   const QImage& img = f().pPix.bitmap();
-  EXPECT_EQ(count(f().pPix, 0x0000FF), img.width() * img.height() - count(f().pPix, kBlack));
+  EXPECT_EQ(countColour(f().pPix, 0x0000FF), img.width() * img.height() - countColour(f().pPix, kBlack));
   f().Px(0).Value = 40;
   f().Px(1).Value = 40;
   f().HScroll1.Value = 60;  // each layer 4 pixels on from the last
@@ -108,7 +96,7 @@ TEST_F(Text3DTest, TheStackRunsFromOneLayerToSixtyAboutTheSameCentre) {
   EXPECT_NEAR(stack.center().y(), one.center().y(), 3);
   // The rightmost ink belongs to the last layer, drawn on top in the front colour.
   Colour last = kBlack;
-  for (int y = stack.top(); y <= stack.bottom() && last == kBlack; ++y) last = colourAt(img, stack.right(), y);
+  for (int y = stack.top(); y <= stack.bottom() && last == kBlack; ++y) last = GetPixel(f().pPix, stack.right(), y);
   EXPECT_EQ(last, 0x0000FF);
 }
 
@@ -147,10 +135,10 @@ TEST_F(TextBrushTest, RandomSizesAtTheLeftEdgePrintNothingAndKeepTheColours) {
   f().ckTxGrad.Value = 1;
   m().ColorOption = 0;
   press(100, 1500);  // the print position falls on 0
-  EXPECT_EQ(count(f().PicPaint, kWhite), 0);
+  EXPECT_EQ(countColour(f().PicPaint, kWhite), 0);
   EXPECT_EQ(m().ColorOption, 0);
   move(1600, 1500);
-  EXPECT_GT(count(f().PicPaint, kWhite), 0);
+  EXPECT_GT(countColour(f().PicPaint, kWhite), 0);
   EXPECT_NE(m().ColorOption, 0);
   f().vFont.Value = 8;
   for (int i = 0; i < 20; ++i) {
@@ -170,7 +158,7 @@ TEST_F(TextBrushTest, AnyTextStampsWithoutHarm) {
     press(1500, 1500);
     move(1500, 3000);
     release(1500, 3000);
-    EXPECT_EQ(count(f().PicPaint, kWhite) > 0, !t.isEmpty()) << t.size();
+    EXPECT_EQ(countColour(f().PicPaint, kWhite) > 0, !t.isEmpty()) << t.size();
   }
   for (int size : {120, 8}) {
     f().vFont.Value = size;

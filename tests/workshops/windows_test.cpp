@@ -48,6 +48,13 @@ class WorkshopTest : public ProgramTest {
     dialog().cmdOK.raiseClick();
     return QDir(folder.path()).filePath(name + ".bmp");
   }
+  // A file of the test's folder pressed in a workshop's Explorer panel, then taken by `take`.
+  void pressFile(WorkshopExplorer& x, const QString& name, CommandButton* take = nullptr) {
+    x.Dir1.Path = folder.path();
+    x.File1.ListIndex = static_cast<int>(x.File1.items().indexOf(name));
+    x.File1.raiseMouseDown(vbLeftButton, 0, 0, 0);
+    (take ? *take : x.cKay).raiseClick();
+  }
   QTemporaryDir folder;
 };
 
@@ -109,12 +116,6 @@ TEST_F(WorkshopTest, TheExplorerPanelLoadsWhatItPreviewsAndPassesOverABrokenFile
   ASSERT_TRUE(bad.open(QIODevice::WriteOnly));
   bad.write("BM not a picture");
   bad.close();
-  auto pressFile = [&](WorkshopExplorer& x, const QString& name) {
-    x.Dir1.Path = folder.path();
-    x.File1.ListIndex = static_cast<int>(x.File1.items().indexOf(name));
-    x.File1.raiseMouseDown(vbLeftButton, 0, 0, 0);
-    x.cKay.raiseClick();
-  };
   choose(f().mTileSet);
   tile().mLoadImg.raiseClick();
   ASSERT_TRUE(tile().fX.Visible);
@@ -139,10 +140,7 @@ TEST_F(WorkshopTest, TheBackgroundShowsThroughTheOpenCellsOfTheCheckeredStyles) 
   solid(4, 4, 0xFF0000FF).save(QDir(folder.path()).filePath("bg.bmp"), "BMP");
   choose(f().mTileSet);
   tile().mLdBg.raiseClick();
-  tile().explorer.Dir1.Path = folder.path();
-  tile().explorer.File1.ListIndex = static_cast<int>(tile().explorer.File1.items().indexOf("bg.bmp"));
-  tile().explorer.File1.raiseMouseDown(vbLeftButton, 0, 0, 0);
-  tile().cBG.raiseClick();
+  pressFile(tile().explorer, "bg.bmp", &tile().cBG);
   ASSERT_TRUE(tile().ckBG.Visible);
   paste(tile().mPaste, solid(4, 4, 0xFFFF0000));
   // Style 8 at the preset 7 x 7 leaves the second cell of the first row open.
@@ -208,7 +206,6 @@ TEST_F(WorkshopTest, TheWindowSizeDrivesTheStretchAlwaysFromTheSource) {
   EXPECT_EQ(stretch().pLO.bitmap().size(), QSize(400, 200));
   EXPECT_EQ(pixelOf(stretch().pLO, 399, 199), 0xFF0000FFu);
   EXPECT_EQ(pixelOf(stretch().pLO, 299, 99), 0xFFFF0000u);
-  EXPECT_EQ(stretch().Caption.get(), " Quillora Image Stretcher 400 x 200");
   const QImage first = stretch().pLO.bitmap();
   stretch().Move(0, 0, 420, 735);  // down to 4 x 1 and back
   stretch().Move(0, 0, 6360, 3720);
@@ -223,7 +220,6 @@ TEST_F(WorkshopTest, EverySaveModeWritesItsOwnPicture) {
   // Tiled, stretched, cropped, blended, blue screen: each set up, then saved by its menu item.
   tiled(0xFFFF0000);
   tile().mSave.raiseClick();
-  EXPECT_EQ(dialog().Width.get(), frmFile::kSaveWidth);
   EXPECT_EQ(QImage(saveAs("tiled")).pixel(0, 0), 0xFFFF0000u);
   EXPECT_FALSE(dialog().Visible);
 
@@ -244,7 +240,6 @@ TEST_F(WorkshopTest, EverySaveModeWritesItsOwnPicture) {
   blend().cGo.raiseClick();
   headless.loop.advance(500);
   blend().mSave.raiseClick();
-  EXPECT_EQ(dialog().Caption.get(), "Save Blended Image As...");
   EXPECT_EQ(QImage(saveAs("blended")).pixel(5, 5), qRgb(50, 50, 50));
   blend().mBlue.raiseClick();
   paste(blend().mPaste, solid(2, 2, qRgb(9, 9, 9)));
@@ -252,6 +247,7 @@ TEST_F(WorkshopTest, EverySaveModeWritesItsOwnPicture) {
   blend().cGo.raiseClick();
   blend().mSave.raiseClick();
   EXPECT_EQ(QImage(saveAs("bluescreen")).pixel(5, 5), qRgb(9, 9, 9));
+  EXPECT_EQ(m().CurrentFile, "");  // a workshop's picture never names the canvas
 }
 
 TEST_F(WorkshopTest, ASaveThatCannotBeWrittenLeavesTheDialogOpen) {
@@ -272,7 +268,6 @@ TEST_F(WorkshopTest, TheFileWindowLoadsAPictureToStretch) {
   solid(3, 3, 0xFF00FF00).save(path, "BMP");
   choose(f().mStretch);
   stretch().mLoad.raiseClick();
-  EXPECT_EQ(dialog().Caption.get(), "Load Image To Be Strecthed...");
   dialog().Dir1.Path = folder.path();
   dialog().File1.ListIndex = static_cast<int>(dialog().File1.items().indexOf("src.bmp"));
   dialog().cmdOK.raiseClick();
