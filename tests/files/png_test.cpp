@@ -75,7 +75,7 @@ TEST_F(PngTest, EveryLoadPathTakesPngsOnTheCanvasColourAndRefusesATruncatedOne) 
        }},
       {"the TileSetter's list", [&](const QString& file) { return inList(w.tile.explorer.File1, w.tile.explorer.preview, file); }},
       {"the Image Blender's list", [&](const QString& file) { return inList(w.blend.explorer.File1, w.blend.explorer.preview, file); }},
-      {"the Transparency Tool's list", [&](const QString& file) { return inList(w.blue.File1, w.blue.iPre, file); }},
+      {"the Transparency Tool's list", [&](const QString& file) { return inList(w.blue.explorer.File1, w.blue.explorer.preview, file); }},
   };
   const QRgb backdrop = raster::toPixel(kCanvasColour);
   const int halfRed = (255 * 128 + 0xC0 * 127) / 255;
