@@ -56,23 +56,12 @@ class PngTest : public FilesTest {
 TEST_F(PngTest, EveryLoadPathTakesPngsOnTheCanvasColourAndRefusesATruncatedOne) {
   Windows& w = program->w;
   const std::pair<const char*, std::function<QImage(const QString&)>> kLoadPaths[] = {
-      {"dropped on the canvas",
-       [&](const QString& file) {
-         f().PicPaint.OLEDragDrop({at(file)}, vbLeftButton, 0, 0, 0);
-         return canvas();
-       }},
-      {"the Explorer panel",
-       [&](const QString& file) {
-         openThroughExplorer(file);
-         return canvas();
-       }},
+      {"dropped on the canvas", [&](const QString& file) { return f().PicPaint.OLEDragDrop({at(file)}, vbLeftButton, 0, 0, 0), canvas(); }},
+      {"the Explorer panel", [&](const QString& file) { return openThroughExplorer(file), canvas(); }},
       {"the file window's Open", [&](const QString& file) { return inDialog(FileMode::OpenImage, file); }},
       {"the file window's Image Stretcher load", [&](const QString& file) { return inDialog(FileMode::LoadStretch, file); }},
       {"dropped on the Image Stretcher",
-       [&](const QString& file) {
-         w.stretch.pLO.OLEDragDrop({at(file)}, vbLeftButton, 0, 0, 0);
-         return w.stretch.pTemp.Picture.get();
-       }},
+       [&](const QString& file) { return w.stretch.pLO.OLEDragDrop({at(file)}, vbLeftButton, 0, 0, 0), w.stretch.pTemp.Picture.get(); }},
       {"the TileSetter's list", [&](const QString& file) { return inList(w.tile.explorer.File1, w.tile.explorer.preview, file); }},
       {"the Image Blender's list", [&](const QString& file) { return inList(w.blend.explorer.File1, w.blend.explorer.preview, file); }},
       {"the Transparency Tool's list", [&](const QString& file) { return inList(w.blue.explorer.File1, w.blue.explorer.preview, file); }},

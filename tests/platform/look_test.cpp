@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QGuiApplication>
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QMainWindow>
@@ -79,59 +80,29 @@ std::string cutCaptions(FormView& view) {
   return cut.join("; ").toStdString();
 }
 
-TEST(WindowLook, EveryCaptionFitsItsControlInEveryMode) {
+class WindowLook : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    program.start();
+    main.window().show();
+  }
+  void choose(Menu& item) {
+    item.raiseClick();
+    h.loop.advance(50);
+  }
   HeadlessRuntime h;
-  Program program(h.rt());
-  FormView main(program.f), file(program.w.file), layout(program.w.lo);
-  program.start();
-  main.window().show();
-  // The screenshot is drawn at the screen's scale: the check below is made at that scale too.
-  const double scale = qEnvironmentVariableIsSet("QT_SCALE_FACTOR") ? qEnvironmentVariable("QT_SCALE_FACTOR").toDouble() : 1.0;
-  const QImage shot = main.window().grab().toImage();
-  EXPECT_DOUBLE_EQ(shot.devicePixelRatio(), scale);
-  EXPECT_EQ(shot.width(), qRound(main.window().width() * scale));
-  shot.save(QString("look-%1.png").arg(qRound(scale * 100)));
+  Program program{h.rt()};
+  frmCanvas& f = program.f;
+  FormView main{program.f};
+};
 
+// In every mode, the help line also holds the longest of its texts whole: the mode's own help and
+// the sentences that the pointer brings up as it passes over each control.
+TEST_F(WindowLook, EveryCaptionAndHelpTextFitsItsControlInEveryMode) {
+  FormView file(program.w.file);
+  // The screenshot (for the README) is drawn at the screen's scale.
+  main.window().grab().toImage().save(QString("look-%1.png").arg(qRound(qApp->devicePixelRatio() * 100)));
   EXPECT_EQ(cutCaptions(main), "") << "at start-up";
-  for (const PaintModeInfo& mode : paintModes()) {
-    auto* item = dynamic_cast<Menu*>(program.f.find(mode.menu));
-    if (!item) continue;
-    item->raiseClick();
-    h.loop.advance(50);
-    EXPECT_EQ(cutCaptions(main), "") << "in " << mode.caption;
-  }
-  // The state line's longest sentences, as the bars write them.
-  frmCanvas& f = program.f;
-  struct Tell {
-    Menu* mode;
-    ScrollBar* bar;
-    int value;
-  } tells[] = {{&f.mCircFx, &f.vVal3, 15}, {&f.mSpir2, &f.vVal2, 30}, {&f.mBrushes, &f.vVal2, 12}};
-  for (const Tell& t : tells) {
-    t.mode->raiseClick();
-    h.loop.advance(50);
-    t.bar->Value = t.value;
-    ASSERT_TRUE(f.lTell.Caption.get().startsWith("Click arrows")) << f.lTell.Caption.get().toStdString();
-    EXPECT_EQ(cutCaptions(main), "") << "in " << t.mode->Caption.get().toStdString();
-    // The next mode starts with its own state line, not this mode's last sentence.
-    f.mPencil.raiseClick();
-    h.loop.advance(50);
-    EXPECT_EQ(f.lTell.Caption.get().toStdString(), "") << "after " << t.mode->Caption.get().toStdString();
-  }
-  program.f.mnuSave.raiseClick();
-  EXPECT_TRUE(program.w.file.Visible);
-  EXPECT_EQ(cutCaptions(file), "");
-}
-
-// The help line holds the longest of its texts whole, in every mode: the mode's own help and the
-// sentences that the pointer brings up as it passes over each control.
-TEST(WindowLook, EveryHelpTextFitsTheHelpLine) {
-  HeadlessRuntime h;
-  Program program(h.rt());
-  FormView main(program.f);
-  program.start();
-  main.window().show();
-  frmCanvas& f = program.f;
   auto helpCut = [&] {
     main.sync();
     return (cutOf(main, &f.lHelp) + cutOf(main, &f.lHelpb)).toStdString();
@@ -139,13 +110,13 @@ TEST(WindowLook, EveryHelpTextFitsTheHelpLine) {
   for (const PaintModeInfo& mode : paintModes()) {
     auto* item = dynamic_cast<Menu*>(f.find(mode.menu));
     if (!item) continue;
-    item->raiseClick();
-    h.loop.advance(50);
+    choose(*item);
+    EXPECT_EQ(cutCaptions(main), "") << "in " << mode.caption;
     for (int state = -1; state <= 2; ++state) {
-      const char* text = modeHelpText(mode.number, state);
-      if (!text) continue;
-      f.lHelp.Caption = text;
-      EXPECT_EQ(helpCut(), "") << "in " << mode.caption << ", state " << state;
+      if (const char* text = modeHelpText(mode.number, state)) {
+        f.lHelp.Caption = text;
+        EXPECT_EQ(helpCut(), "") << "in " << mode.caption << ", state " << state;
+      }
     }
     for (Control* c : f.controls()) {
       auto* v = dynamic_cast<VisualControl*>(c);
@@ -155,17 +126,29 @@ TEST(WindowLook, EveryHelpTextFitsTheHelpLine) {
       EXPECT_EQ(helpCut(), "") << "in " << mode.caption << ", over " << c->key().toStdString();
     }
   }
+  // The state line's longest sentences, as the bars write them.
+  struct Tell {
+    Menu* mode;
+    ScrollBar* bar;
+    int value;
+  } tells[] = {{&f.mCircFx, &f.vVal3, 15}, {&f.mSpir2, &f.vVal2, 30}, {&f.mBrushes, &f.vVal2, 12}};
+  for (const Tell& t : tells) {
+    choose(*t.mode);
+    t.bar->Value = t.value;
+    ASSERT_TRUE(f.lTell.Caption.get().startsWith("Click arrows")) << f.lTell.Caption.get().toStdString();
+    EXPECT_EQ(cutCaptions(main), "") << "in " << t.mode->Caption.get().toStdString();
+    // The next mode starts with its own state line, not this mode's last sentence.
+    choose(f.mPencil);
+    EXPECT_EQ(f.lTell.Caption.get().toStdString(), "") << "after " << t.mode->Caption.get().toStdString();
+  }
+  f.mnuSave.raiseClick();
+  EXPECT_TRUE(program.w.file.Visible);
+  EXPECT_EQ(cutCaptions(file), "");
 }
 
 // What the user can reach in the text frame: the depth and axis boxes of 3D Text lie under a cover
 // in the Text Brush, and the Text Brush's own size box is on top there.
-TEST(WindowLook, TheTextFrameShowsEachTextToolItsOwnBoxes) {
-  HeadlessRuntime h;
-  Program program(h.rt());
-  FormView main(program.f);
-  program.start();
-  main.window().show();
-  frmCanvas& f = program.f;
+TEST_F(WindowLook, TheTextFrameShowsEachTextToolItsOwnBoxes) {
   // Whether the control is what the pointer meets at its centre.
   auto onTop = [&](VisualControl& c) {
     main.sync();
@@ -179,8 +162,7 @@ TEST(WindowLook, TheTextFrameShowsEachTextToolItsOwnBoxes) {
     bool depthAndAxis, randomSize;
   } cases[] = {{&f.mTxBrush, false, true}, {&f.mText, true, false}, {&f.mTxBrush, false, true}};
   for (const Case& c : cases) {
-    c.mode->raiseClick();
-    h.loop.advance(50);
+    choose(*c.mode);
     EXPECT_EQ(onTop(f.pCount), c.depthAndAxis) << c.mode->Caption.get().toStdString();
     EXPECT_EQ(onTop(f.pCoords), c.depthAndAxis) << c.mode->Caption.get().toStdString();
     EXPECT_EQ(onTop(f.ckTx), c.randomSize) << c.mode->Caption.get().toStdString();

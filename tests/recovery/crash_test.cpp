@@ -95,14 +95,9 @@ TEST(Crash, AKilledWindowOffersItsLastCopyOnceAndOnlyWhenThereIsOne) {
     EXPECT_EQ(second.finish(), 0) << second.out().toStdString();
     EXPECT_EQ(second.out().contains("msgbox \"Recover picture\""), m.offered);
     // Yes is the first button, which the driven window answers: the picture comes back whole.
-    if (m.offered) {
-      EXPECT_EQ(QImage(dir.filePath("back.bmp")), drawn);
-    }
+    if (m.offered) EXPECT_EQ(QImage(dir.filePath("back.bmp")), drawn);
     EXPECT_EQ(QDir(dir.filePath("quillora")).entryList({"recovery.bmp*"}, QDir::Files | QDir::Hidden),
-              QStringList());  // a clean exit leaves no copy and no cut write behind
-    ProgramRun third(dir, "", m.delayMs);
-    EXPECT_EQ(third.finish(), 0);
-    EXPECT_FALSE(third.out().contains("Recover picture")) << "offered twice";
+              QStringList());  // no copy and no cut write is left behind to be offered again
   }
 }
 

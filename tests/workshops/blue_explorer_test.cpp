@@ -1,5 +1,4 @@
-// The Transparency Tool's Explorer panel: the same panel as the other workshops', with its own
-// button captions, loading the file it previews.
+// The Transparency Tool's Explorer panel loads the file it previews.
 #include <QDir>
 #include <QTemporaryDir>
 
@@ -10,15 +9,12 @@ namespace {
 
 TEST_F(ProgramTest, TheTransparencyToolOpensTheFileItsExplorerPreviews) {
   QTemporaryDir folder;
-  ASSERT_TRUE(folder.isValid());
   QImage picture(7, 5, QImage::Format_RGB32);
   picture.fill(0xFF00FF00);
   picture.save(QDir(folder.path()).filePath("green.bmp"), "BMP");
   choose(f().mBluScrn);
   frmBlue& b = program->w.blue;
   WorkshopExplorer& x = b.explorer;
-  EXPECT_EQ(x.cKay.Caption.get(), "Open");
-  EXPECT_EQ(x.cCancel.Caption.get(), "Close");
   b.mOpen.raiseClick();
   ASSERT_TRUE(b.fX.Visible);
   x.Dir1.Path = folder.path();
