@@ -64,15 +64,13 @@ struct Moment {
   const char* name;
   int delayMs;          // the quiet time before a copy is written
   const char* killAt;   // the output line after which the program is killed
-  bool plantCutWrite;   // a temporary file beside the copy, as a kill in the middle of a write leaves
   bool offered;         // the next start offers the picture back
 };
 
 TEST(Crash, AKilledWindowOffersItsLastCopyOnceAndOnlyWhenThereIsOne) {
   const Moment moments[] = {
-      {"after the copy was written", 20, "recovery written", false, true},
-      {"in the middle of a later write", 20, "recovery written", true, true},
-      {"before any copy was written", 60000, "PaintMode", false, false},
+      {"after the copy was written", 20, "recovery written", true},
+      {"before any copy was written", 60000, "PaintMode", false},
   };
   for (const Moment& m : moments) {
     SCOPED_TRACE(m.name);
@@ -86,11 +84,6 @@ TEST(Crash, AKilledWindowOffersItsLastCopyOnceAndOnlyWhenThereIsOne) {
     const QImage drawn(dir.filePath("drawn.bmp"));
     ASSERT_FALSE(drawn.isNull());
     EXPECT_EQ(QFile::exists(copy), m.offered);
-    if (m.plantCutWrite) {
-      QFile cut(copy + ".a1B2c3");
-      cut.open(QIODevice::WriteOnly);
-      cut.write("BM\x36\x00");  // the start of a bitmap, and nothing more
-    }
     ProgramRun second(dir, "save PicPaint back.bmp\n", m.delayMs);
     EXPECT_EQ(second.finish(), 0) << second.out().toStdString();
     EXPECT_EQ(second.out().contains("msgbox \"Recover picture\""), m.offered);
