@@ -53,7 +53,9 @@ TEST_F(FigureTest, EachFigurePaintsOnItsOwnSideOfThePointer) {
       {0, {{-45, 0}, {45, 0}}, {{0, 45}}},                   // Horizontal
       {2, {{30, 30}}, {{-30, 30}, {30, -30}}},               // Backslash: down to the right
       {5, {{0, 120}, {-60, 60}}, {{0, -120}, {-60, -60}}},   // Box hangs below
+      {8, {{240, 0}}, {{0, -200}}},                          // Long Ellipse: wide
       {24, {{0, -240}}, {{0, 240}}},                         // Spear Up
+      {32, {{0, 100}, {0, -235}}, {{0, 235}}},               // Tree: trunk below, top above
       {46, {{-120, 0}, {0, -120}, {-60, 0}}, {{120, 0}, {0, 120}, {60, 0}}},  // 1/4: upper left, with radii
       {55, {{-240, 0}, {0, 240}, {240, 0}}, {{100, 100}}},   // Scope
   };

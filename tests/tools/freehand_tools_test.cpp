@@ -38,7 +38,8 @@ TEST_F(ShadowDrawTest, TheTrackIsInTheBackColourAndTheCopiesFollowTheBoxes) {
       {0, 0, 600, {kBlack, kWhite, kGray, kBlack, kBlack}}, {1, 0, 600, {kBlack, kBlue, kGray, kWhite, kBlack}},
       {1, 1, 600, {kWhite, kBlue, kGray, kWhite, kBlue}},   {0, 1, 600, {kBlue, kWhite, kGray, kWhite, kBlue}},
       // With no offset every copy lies on the track and the one painted last shows.
-      {1, 0, 0, {kBlack, kBlack, kBlue, kBlack, kBlack}},   {1, 1, 0, {kBlack, kBlack, kWhite, kBlack, kBlack}},
+      {0, 0, 0, {kBlack, kBlack, kWhite, kBlack, kBlack}},  {1, 0, 0, {kBlack, kBlack, kBlue, kBlack, kBlack}},
+      {1, 1, 0, {kBlack, kBlack, kWhite, kBlack, kBlack}},  {0, 1, 0, {kBlack, kBlack, kBlue, kBlack, kBlack}},
   };
   for (const Case& c : cases) {
     enter(f().mShadow);
@@ -50,6 +51,9 @@ TEST_F(ShadowDrawTest, TheTrackIsInTheBackColourAndTheCopiesFollowTheBoxes) {
     for (int k = -2; k <= 2; ++k) seen.push_back(pixel(200 + 40 * k, 200 + 40 * k));
     EXPECT_EQ(seen, c.seen) << c.shadow << c.third << " " << c.offset;
   }
+  // A move carries the last point on (the copies along a move are the shadow scenario's).
+  stroke({{3000, 3000}, {6000, 3000}});
+  EXPECT_EQ(m().LastX, 6000);
 }
 
 TEST_F(ShadowDrawTest, RainbowWithTheShadowBoxCarriesTheTrackColourOnlyWhenMoving) {

@@ -52,6 +52,8 @@ TEST_F(LinesTest, CrazyLinezEquationsDrawAndMoveTheLastPoint) {
                         Case{4, QPoint(100, 125), 3000, 2250},    // down, then advance
                         Case{24, QPoint(150, 125), 1500, 1500},   // a spoke, the press kept
                         Case{13, QPoint(380, 300), 1500, 1500},   // four times, past the canvas
+                        Case{36, QPoint(200, 50), 1500, 1500},    // from above the canvas
+                        Case{47, QPoint(250, 275), 1500, 1500},   // the second line, to the mirror
                         Case{50, QPoint(150, 125), 2250, 3000},   // the coordinates exchanged
                         Case{51, QPoint(-1, -1), 1500, 1500}}) {  // no such equation
     enter(f().mCrazyLn);
