@@ -1,9 +1,5 @@
-// Every way a picture comes in, tried with every file of the broken corpus: the program survives,
-// keeps its memory in bounds, and leaves the canvas and its file name as a failed load must. Names
-// that are not UTF-8 and files that are not files: every plain file whose name fits is listed and
-// opens by its real bytes; pipes and devices never do, and no load waits on a pipe. Bitmaps that
-// hold less than their header promises, on every way a picture comes in: what the file gives shows,
-// the rest is black, and never the memory of a picture open before.
+// Every way a picture comes in, tried with the broken corpus, odd file names, pipes and devices,
+// and bitmaps shorter than their headers promise.
 #include <QFile>
 #include <QFileInfo>
 #include <fcntl.h>
@@ -123,7 +119,6 @@ TEST_F(CorpusTest, TheDialogsOpenEitherLoadsAndClosesOrStaysOpenWithTheCanvasAsI
   }
 }
 
-
 class FileNamesTest : public FilesTest {
  protected:
   void SetUp() override {
@@ -172,7 +167,6 @@ TEST_F(FileNamesTest, APipeOrADeviceIsRefusedAtOnceOnEveryPath) {
     EXPECT_FALSE(trap([&] { LoadAnyPicture(at(name)); }));
   }
 }
-
 
 enum class Path { Drop, Explorer, FileWindow, Clipboard };
 

@@ -1,5 +1,4 @@
-// Entering each paint mode arms the panel's value rows: their ranges and values, which rows show
-// and which are live, the panel height, the mode display and the state word.
+// Entering each paint mode arms the panel's value rows.
 #include "core/Panel.h"
 #include "support/ProgramFixture.h"
 

@@ -1,7 +1,4 @@
-// Moving a value bar or clicking a check box: the row's label and tool tip, the variable it feeds,
-// the state word, and the dim rows that ignore their bars; and Instant Help as the pointer passes
-// over the panel: live rows, dim rows, check boxes and the width controls each write their
-// sentence to lHelp, or nothing.
+// The panel's value bars and check boxes as the user moves them, and Instant Help as the pointer passes.
 #include "core/Panel.h"
 #include "support/ProgramFixture.h"
 

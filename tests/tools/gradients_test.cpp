@@ -1,6 +1,4 @@
-// The gradient fills on a bare surface, then Canvas Gradients through the panel and the canvas
-// button; Gradient Spheres and Circle FX: the rings' colours, where a sphere stops, and the timer
-// that repeats them while the button is held.
+// The gradient fills, Canvas Gradients, Gradient Spheres and Circle FX.
 #include "support/ProgramFixture.h"
 #include "tools/Spheres.h"
 #include "surface/SurfaceFixture.h"
@@ -67,8 +65,6 @@ TEST_F(GradientFill, LinearRampRoundsHalvesToEven) {
   EXPECT_EQ(px(b, 5, 5), 0x000000);  // lines 10 units apart, one pixel wide
 }
 
-// ---- Canvas Gradients through the panel ----
-
 class CanvasGradients : public ProgramTest {
  protected:
   void SetUp() override {
@@ -131,9 +127,6 @@ TEST_F(CanvasGradients, TinyAndWideCanvasesTakeEveryStyle) {
     EXPECT_EQ(at(f().PicPaint.pixelWidth() - 1, 0), 0xFFFFFF) << w;  // the ramp's first line
   }
 }
-
-// ---- Gradient Spheres and Circle FX ----
-
 
 TEST(RingColour, PureAndMixedColoursFillTheirOwnChannels) {
   struct Case { int option; bool mixed; Colour expected; };
@@ -206,8 +199,7 @@ TEST_F(Spheres, EveryBarAtEitherEndStillDraws) {
       }
       f().ckVal.Value = 1 - end;  // white has no mixed colour
       f().PicPaint.Picture = QImage();
-      press(3000, 3000);
-      release(3000, 3000);
+      click(3000, 3000);
       EXPECT_NE(pixel(203, 200), 0x000000) << mode->key().toStdString() << end;
     }
   }

@@ -1,5 +1,4 @@
-// Paint w/Pix: Collage Mode stretches the Explorer's picture into each drag; Transparent Mode
-// stamps the prepared picture with its key colour left out exactly.
+// Paint w/Pix: Collage Mode and Transparent Mode.
 #include <QDir>
 #include <QTemporaryDir>
 

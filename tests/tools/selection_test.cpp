@@ -1,5 +1,4 @@
-// The Selection Tool: what a drag takes, where the float goes, what lands on the canvas when it is
-// set, and how undo, mirror, invert, tiles and the clipboard treat it.
+// The Selection Tool: the drag, the float, setting it, and what undo and the menus do to it.
 #include "platform/Headless.h"
 #include "tools/ToolFixture.h"
 #include "tools/Selection.h"

@@ -1,6 +1,4 @@
-// GeoSpiralz and MiniSpiralz: the figures' geometry, the drawing's pace on the clock, input that
-// arrives while it draws, and the floating result's set and cancel. Freehand Spiralz on the pixel
-// surface, its MiniSpirals box, and the full-screen window.
+// GeoSpiralz, MiniSpiralz, Freehand Spiralz and the full-screen window, on the virtual clock.
 #include <cmath>
 
 #include "core/Keyboard.h"
@@ -173,8 +171,6 @@ TEST_F(MiniSpiralzTest, ALeftPressSetsItWhereItStoodAndTheFloatsScaleComesBack) 
   choose(f().mPencil);
   EXPECT_EQ(f().pSpire.ScaleMode.get(), 1);
 }
-
-// ---- Freehand Spiralz ----
 
 TEST(PointAngle, TheAxesThroughTheCentreTakeFixedAnglesAndTheCentreKeepsTheOldOne) {
   struct Case { Single x, y; Single angle; };

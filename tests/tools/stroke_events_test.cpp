@@ -1,7 +1,5 @@
-// What each stroke tool does at its events: which events run the colour step (in the Gradient colour
-// mode the step switches the gradient's timer on, which shows that it ran), what a move marks for
-// the screen (the rubber-band modes nothing at all, the mirrors the union of their segments), and
-// strokes far outside the canvas.
+// What each stroke tool does at its events. In the Gradient colour mode the colour step switches the
+// gradient's timer on, which shows that the step ran.
 #include "tools/ToolFixture.h"
 
 namespace qp::test {
@@ -29,7 +27,6 @@ TEST_F(ColourSteps, EachToolStepsAtItsOwnEvents) {
     EXPECT_FALSE(f().tGrad.Enabled);
   }
 }
-
 
 using MoveCost = ToolTest;
 

@@ -19,8 +19,6 @@ QImage filled(int w, int h, QRgb c) {
   return img;
 }
 
-// ---- tiling ------------------------------------------------------------------------------------
-
 // The first image is red on its left half and green on its right, so a mirrored tile starts green.
 QImage halves() {
   QImage img = filled(8, 8, kRed);
@@ -77,8 +75,6 @@ TEST(Tiling, DoubleStylesWithoutASecondImageAndBadCountsDrawNothing) {
     EXPECT_EQ(out, filled(20, 20, kBlack)) << style;
   }
 }
-
-// ---- blending ----------------------------------------------------------------------------------
 
 // The blend as the pixel-by-pixel routine computes it: colours read as 0xBBGGRR (-1 outside the
 // second picture), split with Mod and Int, mixed in double precision, rounded half to even; a
@@ -144,8 +140,6 @@ TEST(Blend, WhereTheSecondPictureEndsADarkPixelStopsTheBlendInColumnOrder) {
   EXPECT_EQ(out.picture.pixel(1, 2), qRgb(29, 29, 29));
   EXPECT_TRUE(BlendPictures(QImage(), one, 50).picture.isNull());
 }
-
-// ---- key colour, stretch, crop ------------------------------------------------------------------
 
 TEST(KeyColour, KeyPixelsLetTheBaseThroughAndOthersCoverIt) {
   QImage base = filled(4, 4, kRed);

@@ -1,6 +1,4 @@
-// The three workshop windows driven through their controls: opening from the main window as
-// top-level windows of their own, the "Processing..." waits, the modes, the "Temp" return, and every
-// save mode through the file window.
+// The three workshop windows driven through their controls and the file window.
 #include <QAction>
 #include <QApplication>
 #include <QDir>
@@ -160,9 +158,7 @@ TEST_F(WorkshopTest, TheBackgroundShowsThroughTheOpenCellsOfTheCheckeredStyles) 
 TEST_F(WorkshopTest, BlendPixMixesAtThePercentageAfterItsWait) {
   choose(f().mBlend);
   paste(blend().mPaste, solid(10, 10, qRgb(1, 100, 0)));
-  EXPECT_FALSE(blend().cGo.Enabled);
   paste(blend().mPaste, solid(20, 5, qRgb(2, 200, 255)));
-  EXPECT_EQ(blend().lPic2.Caption.get(), "Clipboard Image 2");
   ASSERT_TRUE(blend().cGo.Enabled);
   blend().cGo.raiseClick();
   headless.loop.advance(500);
