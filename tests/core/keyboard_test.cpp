@@ -49,8 +49,7 @@ TEST_F(KeyboardTest, DeleteClearsForgetsTheFileAndBackspaceUndoesIt) {
   drawDot(1500, 1500);
   key(vbKeyDelete);
   EXPECT_EQ(pixel(100, 100), kBlack);
-  EXPECT_EQ(m().CurrentFile, "");
-  EXPECT_TRUE(f().Caption.get().contains("Untitled.bmp"));
+  EXPECT_TRUE(m().CurrentFile.isEmpty() && f().Caption.get().contains("Untitled.bmp"));
   key(vbKeyBack);
   EXPECT_EQ(pixel(100, 100), kWhite);
 }
@@ -75,8 +74,7 @@ TEST_F(KeyboardTest, InsertFloatsTheClipboardsPictureWhenThereIsOne) {
   red.fill(qRgb(255, 0, 0));
   headless.clipboard.SetData(red);
   key(vbKeyInsert);
-  EXPECT_EQ(m().PaintMode, 22);
-  EXPECT_TRUE(f().pTemp.Visible);
+  EXPECT_TRUE(m().PaintMode == 22 && f().pTemp.Visible);
 }
 
 TEST_F(KeyboardTest, FunctionKeysStepTheWidthIntervalAndTheColourMode) {
@@ -87,9 +85,9 @@ TEST_F(KeyboardTest, FunctionKeysStepTheWidthIntervalAndTheColourMode) {
       {vbKeyF12, 1, 400, 1}, {vbKeyF12, 5, 400, 3}, {vbKeyF11, 1, 400, 2}, {vbKeyF11, 5, 400, 0}};
   for (const auto& st : steps) {
     key(st.code, st.times);
-    EXPECT_EQ(f().tPenUp.Interval.get(), st.interval) << st.code << " x" << st.times;
-    EXPECT_EQ(f().tPenDwn.Interval.get(), st.interval);
-    EXPECT_EQ(f().vColmode.Value.get(), st.colourMode) << st.code << " x" << st.times;
+    const int got[] = {f().tPenUp.Interval, f().tPenDwn.Interval, f().vColmode.Value};
+    EXPECT_EQ(std::vector(std::begin(got), std::end(got)), (std::vector{st.interval, st.interval, st.colourMode}))
+        << st.code << " x" << st.times;
   }
   EXPECT_EQ(f().lStats.Caption.get(), "Standard");
   key(vbKeyF7);
@@ -102,14 +100,12 @@ TEST_F(KeyboardTest, HelpKeyListAndGridKeys) {
   f().mKeys.Click = [&] { ++keys; };
   key(vbKeyF2);
   key(vbKeyK);
-  EXPECT_EQ(help, 1);
-  EXPECT_EQ(keys, 1);
+  EXPECT_EQ(std::pair(help, keys), std::pair(1, 1));
   // Caps Lock shows the grid and C colours it.
   key(vbKeyCapital);
   EXPECT_TRUE(f().lnX.Visible);
   key(vbKeyC);
-  EXPECT_EQ(f().lnX.BorderColor.get(), m().ForeClr.value());
-  EXPECT_EQ(f().lnY.BorderColor.get(), m().BackClr.value());
+  EXPECT_EQ(std::pair(f().lnX.BorderColor.get(), f().lnY.BorderColor.get()), std::pair(m().ForeClr.value(), m().BackClr.value()));
   key(vbKeyCapital);
   EXPECT_FALSE(f().lnX.Visible);
 }
@@ -117,8 +113,7 @@ TEST_F(KeyboardTest, HelpKeyListAndGridKeys) {
 TEST_F(KeyboardTest, KeysWithoutARowLeaveTheSessionAlone) {
   drawDot(1500, 1500);
   for (int code : {int(vbKeyZ), int(vbKeyF9), int('W'), int('O'), int('S'), 65}) key(code);
-  EXPECT_EQ(m().PaintMode, 0);
-  EXPECT_EQ(m().DrawWidth, 1);
+  EXPECT_EQ(std::pair(int(m().PaintMode), int(m().DrawWidth)), std::pair(0, 1));
   EXPECT_EQ(pixel(100, 100), kWhite);
   EXPECT_FALSE(program->quitRequested());
   // Any key up shows the width bar's value.

@@ -16,8 +16,7 @@ class UndoTest : public PencilTest {
     windowKey(f(), vbKeyBack);
     windowKeyUp(f(), vbKeyControl);
   }
-  int canvasWidth() { return static_cast<int>(f().PicPaint.Width / 15); }
-  int canvasHeight() { return static_cast<int>(f().PicPaint.Height / 15); }
+  QSize canvasSize() { return {static_cast<int>(f().PicPaint.Width / 15), static_cast<int>(f().PicPaint.Height / 15)}; }
 };
 
 TEST_F(UndoTest, OneLevelTakesTheLastStrokeAndRepeatingItChangesNothing) {
@@ -38,7 +37,8 @@ TEST_F(UndoTest, OneLevelTakesTheLastStrokeAndRepeatingItChangesNothing) {
 }
 
 TEST_F(UndoTest, AfterAModeChangeTheSecondLevelGivesBackTheWholeCanvas) {
-  const int w = canvasWidth(), h = canvasHeight();
+  const QSize size = canvasSize();
+  const int w = size.width(), h = size.height();
   ASSERT_GT(w, 100);
   drawDot(15.0f * (w - 5), 15.0f * (h - 5));  // a dot far from the corner a small holder keeps
   drawDot(1500, 1500);
@@ -46,8 +46,7 @@ TEST_F(UndoTest, AfterAModeChangeTheSecondLevelGivesBackTheWholeCanvas) {
   choose(f().mnuUndo);
   EXPECT_EQ(pixel(100, 100), kWhite);  // the canvas as it stood at the change
   ctrlBackspace();
-  EXPECT_EQ(canvasWidth(), w);
-  EXPECT_EQ(canvasHeight(), h);
+  EXPECT_EQ(canvasSize(), size);
   EXPECT_EQ(pixel(100, 100), kBlack);      // the last stroke is gone
   EXPECT_EQ(pixel(w - 5, h - 5), kWhite);  // the one before it is there, far out
   EXPECT_TRUE(f().Caption.get().endsWith(QString("%1 x %2").arg(w).arg(h)));
@@ -58,8 +57,7 @@ TEST_F(UndoTest, UndoKeepsTheSizeChosenForTheCanvas) {
   choose(f().m64x48);
   drawDot(1500, 1500);
   release(1500, 1500, vbRightButton);
-  EXPECT_EQ(canvasWidth(), 640);
-  EXPECT_EQ(canvasHeight(), 480);
+  EXPECT_EQ(canvasSize(), QSize(640, 480));
   EXPECT_EQ(f().PicUndo.Width.get(), f().PicPaint.Width.get());
   EXPECT_EQ(pixel(100, 100), kBlack);
   EXPECT_TRUE(f().Caption.get().endsWith("640 x 480"));
@@ -77,8 +75,7 @@ TEST_F(UndoTest, TheClearCommandKeepsTheFileAndCannotBeUndoneAndUndoStopsTheTool
   f().tPenUp.Enabled = true;
   f().tAir.Enabled = true;
   choose(f().mnuUndo);
-  EXPECT_FALSE(f().tPenUp.Enabled);
-  EXPECT_FALSE(f().tAir.Enabled);
+  EXPECT_FALSE(f().tPenUp.Enabled || f().tAir.Enabled);
 }
 
 TEST_F(UndoTest, TheCanvasColourReplacesThePictureForGood) {
@@ -90,7 +87,6 @@ TEST_F(UndoTest, TheCanvasColourReplacesThePictureForGood) {
   EXPECT_EQ(f().PicPaint.BackColor.get(), 0x0000FF);
   choose(f().mnuUndo);
   EXPECT_EQ(pixel(100, 100), 0x0000FF);  // undo gives the new empty canvas
-  EXPECT_EQ(pixel(300, 300), 0x0000FF);
 }
 
 TEST_F(UndoTest, NewGivesAnEmptyUntitledPencilCanvasInTheCanvasColourAndResetKeepsThePicture) {

@@ -96,17 +96,7 @@ TEST_F(LoopTest, DoEventsInsideATickRunsOthersButNeverTheSameTimer) {
   EXPECT_EQ(h.loop.now(), 15);
 }
 
-TEST_F(LoopTest, DoEventsLoopsEnd) {
-  // The drawing loops pace themselves by the clock: `while now < mark: DoEvents`.
-  const std::int64_t mark = h.loop.now() + 10;
-  int rounds = 0;
-  while (h.loop.now() < mark && rounds < 1000) {
-    h.loop.processEvents();
-    ++rounds;
-  }
-  EXPECT_EQ(h.loop.now(), mark);
-  EXPECT_EQ(rounds, 10);
-  // A handler that posts itself again and calls DoEvents ends too.
+TEST_F(LoopTest, AHandlerThatPostsItselfAndCallsDoEventsEnds) {
   int runs = 0;
   std::function<void()> again = [&] {
     ++runs;

@@ -78,8 +78,7 @@ TEST(ModalShow, OnScreenRunsQtsLoopUntilTheWindowHides) {
     d.Hide();
   });
   d.Show(true);  // returns only once the timer above has hidden the window
-  EXPECT_TRUE(modalOnScreen);
-  EXPECT_FALSE(d.Visible);
+  EXPECT_TRUE(modalOnScreen && !d.Visible);
 }
 
 TEST(WindowKeys, GoToTheWindowActiveNowOnceAnotherHides) {

@@ -37,6 +37,10 @@ class SurfaceTest : public ::testing::Test {
     for (const Probe& p : probes) EXPECT_EQ(GetPixel(b, p.x, p.y), p.c) << what << " at " << p.x << ", " << p.y;
   }
 
+  // The bitmap's size in pixels and the current drawing position.
+  static QSize pixels(const PictureBox& b) { return {b.pixelWidth(), b.pixelHeight()}; }
+  static QPointF at(const PictureBox& b) { return {b.CurrentX, b.CurrentY}; }
+
   static int count(const PictureBox& b, Colour c) {
     int n = 0;
     for (int y = 0; y < b.pixelHeight(); ++y)

@@ -18,19 +18,16 @@ TEST_F(BitmapTest, SizeFollowsTwipsOrParentPixels) {
   PictureBox& canvas = box(0, 0, 1);
   canvas.Width = 11295;
   canvas.Height = 8295;
-  EXPECT_EQ(canvas.pixelWidth(), 753);
-  EXPECT_EQ(canvas.pixelHeight(), 553);
-  EXPECT_FLOAT_EQ(canvas.ScaleWidth, 11295);  // twips: the interior is the outer size
-  EXPECT_FLOAT_EQ(canvas.ScaleHeight, 8295);
+  EXPECT_EQ(pixels(canvas), QSize(753, 553));
+  EXPECT_EQ(QSizeF(canvas.ScaleWidth, canvas.ScaleHeight), QSizeF(11295, 8295));  // twips: the outer size
   // A child of a picture box in pixels takes its size in pixels.
   PictureBox& parent = box(100, 100, 3);
   PictureBox child(&form, &parent, "child");
   child.ScaleMode = 3;
   child.Width = 33;
   child.Height = 20;
-  EXPECT_EQ(child.pixelWidth(), 33);
-  EXPECT_FLOAT_EQ(child.ScaleWidth, 33);
-  EXPECT_FLOAT_EQ(child.ScaleHeight, 20);
+  EXPECT_EQ(pixels(child), QSize(33, 20));
+  EXPECT_EQ(QSizeF(child.ScaleWidth, child.ScaleHeight), QSizeF(33, 20));
 }
 
 TEST_F(BitmapTest, AutoSizeTakesThePicturesSizeAndAnEmptyPictureKeepsIt) {
@@ -46,8 +43,7 @@ TEST_F(BitmapTest, AutoSizeTakesThePicturesSizeAndAnEmptyPictureKeepsIt) {
   };
   for (const auto& c : cases) {
     b.Picture = c.pic;
-    EXPECT_EQ(b.pixelWidth(), c.w);
-    EXPECT_EQ(b.pixelHeight(), c.h);
+    EXPECT_EQ(pixels(b), QSize(c.w, c.h));
     EXPECT_FLOAT_EQ(b.ScaleWidth, c.w * 15.0f);  // the scale follows the new size
     EXPECT_EQ(px(b, c.w - 1, c.h - 1), c.corner);
   }
@@ -70,8 +66,7 @@ TEST_F(BitmapTest, GrowingKeepsDrawingShrinkingLosesTheCutPart) {
   EXPECT_EQ(px(b, 30, 5), 0x000000);   // the new part shows the back colour
   b.Width = 10 * 15;
   b.Width = 20 * 15;
-  EXPECT_EQ(px(b, 9, 5), 0x0000FF);
-  EXPECT_EQ(px(b, 15, 5), 0x000000);  // cut off and gone
+  expectAt(b, {{9, 5, 0x0000FF}, {15, 5, 0x000000}});  // the cut part is gone
 }
 
 TEST_F(BitmapTest, ImageCopiesAreByValueAndCostOneDetach) {
@@ -108,8 +103,7 @@ TEST_F(BitmapTest, ClsAndBackColorLayThePictureOverTheBackground) {
   b.PSet(25, 15, 0xFFFFFF);
   b.Cls();
   EXPECT_EQ(px(b, 25, 15), 0x112233);
-  EXPECT_EQ(b.CurrentX, 0);
-  EXPECT_EQ(b.CurrentY, 0);
+  EXPECT_EQ(at(b), QPointF(0, 0));
   b.PSet(25, 15, 0xFFFFFF);
   b.BackColor = 0x00FF00;  // clears what was drawn, the picture staying on top
   expectAt(b, {{25, 15, 0x00FF00}, {2, 2, 0xFF0000}});
@@ -170,8 +164,7 @@ TEST_F(BitmapTest, RefusalsRaiseAndChangeNothing) {
   };
   for (size_t i = 0; i < std::size(cases); ++i) EXPECT_EQ(errorCode(cases[i].call), cases[i].code) << "case " << i;
   EXPECT_EQ(empty.Point(0, 0), -1);
-  EXPECT_EQ(b.pixelWidth(), 10);
-  EXPECT_EQ(b.pixelHeight(), 10);
+  EXPECT_EQ(pixels(b), QSize(10, 10));
 }
 
 TEST_F(BitmapTest, DirtyRectangleCoversOnlyWhatWasDrawn) {
@@ -185,8 +178,7 @@ TEST_F(BitmapTest, DirtyRectangleCoversOnlyWhatWasDrawn) {
   EXPECT_EQ(b.takeDirty(), QRect(98, 98, 5, 5));
   b.Line(-50, -50, 2, 2, 0xFFFFFF);  // clipped to the bitmap
   const QRect r = b.takeDirty();
-  EXPECT_EQ(r.topLeft(), QPoint(0, 0));
-  EXPECT_LE(r.right(), 5);
+  EXPECT_TRUE(r.topLeft() == QPoint(0, 0) && r.right() <= 5) << r.right();
   EXPECT_FALSE(b.takeRefreshRequest());
   b.Refresh();
   EXPECT_TRUE(b.takeRefreshRequest());

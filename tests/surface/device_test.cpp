@@ -18,8 +18,7 @@ TEST_F(DeviceTest, PixelsCarryRedInTheLowByte) {
   SetPixel(b, 0, 0, kGreen);  // the first and last pixels are inside
   SetPixel(b, 9, 9, kGreen);
   EXPECT_EQ(count(b, kGreen), 2);
-  EXPECT_EQ(GetPixel(b, -1, 0), -1);
-  EXPECT_EQ(GetPixel(b, 10, 0), -1);
+  EXPECT_EQ(GetPixel(b, -1, 0) & GetPixel(b, 10, 0), -1);  // both outside
   SetPixel(b, 10, 10, kWhite);  // outside: nothing
   EXPECT_EQ(count(b, kWhite), 0);
 }
@@ -139,9 +138,7 @@ TEST_F(DeviceTest, PrintWritesAtTheCurrentPositionAndMovesToTheNextLine) {
   b.Print("Hello");
   QRect ink = extent(b, kBlue);
   ASSERT_FALSE(ink.isEmpty());
-  EXPECT_GE(ink.left(), 20);
-  EXPECT_GE(ink.top(), 10);
-  EXPECT_LE(ink.bottom(), 10 + h);
+  EXPECT_TRUE(QRectF(20, 10, 300, h + 1).contains(ink)) << ink.x() << "," << ink.y();
   EXPECT_NEAR(ink.width(), b.TextWidth("Hello"), 4);
   EXPECT_EQ(b.CurrentX, 20);
   EXPECT_GE(b.CurrentY, 10 + h - 1);

@@ -16,13 +16,12 @@ TEST_F(DrawingTest, LineFormsAndCurrentPosition) {
   b.ForeColor = kRed;
   b.Line(10, 10, 20, 10);  // pen colour, both ends drawn
   EXPECT_EQ(extent(b, kRed), QRect(10, 10, 11, 1));
-  EXPECT_EQ(b.CurrentX, 20);
-  EXPECT_EQ(b.CurrentY, 10);
+  EXPECT_EQ(at(b), QPointF(20, 10));
   b.LineTo(20, 30, kBlue);  // continues from the second point, in the given colour
   b.LineTo(5, 25, kBlue);   // and runs leftwards and upwards as well
   EXPECT_EQ(extent(b, kBlue), QRect(5, 10, 16, 21));
   EXPECT_EQ(px(b, 5, 25), kBlue);
-  EXPECT_EQ(b.CurrentY, 25);
+  EXPECT_EQ(at(b), QPointF(5, 25));
   b.Cls();
   b.LineTo(5, 0, kWhite);  // right after Cls a figure starts at 0, 0
   EXPECT_EQ(extent(b, kWhite), QRect(0, 0, 6, 1));
@@ -46,10 +45,9 @@ TEST_F(DrawingTest, BoxesOutlineAndFilledWithTheLineColour) {
   b.Line(30, 40, 10, 20, kRed, LineBox::B);
   EXPECT_EQ(extent(b, kRed), QRect(10, 20, 21, 21));
   EXPECT_EQ(count(b, kRed), 80);
-  EXPECT_EQ(b.CurrentX, 10);
-  EXPECT_EQ(b.CurrentY, 20);
+  EXPECT_EQ(at(b), QPointF(10, 20));
   b.Line(40, 5, 50, 10, kWhite, LineBox::BF);
-  EXPECT_EQ(count(b, kWhite), 11 * 6);
+  EXPECT_EQ(count(b, kWhite), 11 * 6);  // filled: the count equals the extent's area
   EXPECT_EQ(extent(b, kWhite), QRect(40, 5, 11, 6));
   // A box outline drawn with xor touches each pixel once, even at the corners of wide pens.
   PictureBox& c = box(60, 60);
@@ -106,7 +104,7 @@ TEST_F(DrawingTest, PSetAndPointRoundToPixelsAndIgnoreTheOutside) {
   b.ForeColor = kBlue;
   b.PSet(150, 150);
   EXPECT_EQ(extent(b, kBlue), QRect(10, 10, 1, 1));
-  EXPECT_EQ(b.CurrentX, 150);
+  EXPECT_EQ(at(b), QPointF(150, 150));
   EXPECT_EQ(b.Point(149.9f, 150.2f), kBlue);  // rounds to the nearest pixel
   b.DrawWidth = 4;
   b.PSet(450, 450, kRed);
@@ -131,8 +129,7 @@ TEST_F(DrawingTest, CircleSizesByAspectAndStaysCentred) {
     for (int off : {d.left(), d.top(), d.right(), d.bottom()}) EXPECT_LE(std::abs(off), 1) << c.r << " / " << c.aspect;
   }
   EXPECT_EQ(px(b, 200, 200), 0);  // FillStyle 1: outline only
-  EXPECT_EQ(b.CurrentX, 200);
-  EXPECT_EQ(b.CurrentY, 200);
+  EXPECT_EQ(at(b), QPointF(200, 200));
   b.Circle(-10, 200, 10, kWhite);  // mostly off the bitmap, the part on it shows
   EXPECT_EQ(px(b, 0, 200), kWhite);
 }
@@ -147,18 +144,15 @@ TEST_F(DrawingTest, CircleFillAndArcs) {
   b.FillStyle = 1;
   b.Cls();
   b.Circle(100, 100, 50, kWhite, 0.0, pi / 2);
-  EXPECT_EQ(extent(b, kWhite).bottom(), 100);
-  EXPECT_EQ(extent(b, kWhite).left(), 100);
+  EXPECT_EQ(extent(b, kWhite).bottomLeft(), QPoint(100, 100));
   expectAt(b, {{150, 100, kWhite}, {100, 50, kWhite}});
   EXPECT_EQ(px(b, 120, 100), 0);  // no radius without a negative angle
   // Negative ends add the radii and close a filled pie slice.
   b.Cls();
   b.FillStyle = 0;
   b.Circle(100, 100, 50, kWhite, -1e-6, -pi / 2);
-  EXPECT_EQ(px(b, 125, 100), kWhite);  // radius along +X
-  EXPECT_EQ(px(b, 100, 75), kWhite);   // radius up
-  EXPECT_EQ(px(b, 120, 80), kBlue);    // inside the slice
-  EXPECT_EQ(px(b, 80, 120), 0);        // the other quarters stay empty
+  // The radii along +X and up, the inside of the slice, another quarter left empty.
+  expectAt(b, {{125, 100, kWhite}, {100, 75, kWhite}, {120, 80, kBlue}, {80, 120, 0}});
   // A whole ellipse is filled row by row inside its outline.
   PictureBox& e = box(100, 60, 3);
   e.FillStyle = 0;
