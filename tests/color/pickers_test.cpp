@@ -42,7 +42,6 @@ TEST_F(ColourPickersTest, SwatchAndColorOptionBoxGiveTheirColourToForeOrBack) {
 
 TEST_F(ColourPickersTest, PickersRestInTransparentMode) {
   choose(f().mBluScrn);
-  ASSERT_EQ(m().PaintMode, 26);
   const Colour fore = m().ForeClr;
   const QString help = f().lHelp.Caption;
   f().lColor.BackColor = 0x00AA00;

@@ -15,7 +15,6 @@ TEST_F(EditTest, TheStashIsFetchedOnlyAfterASendAsOftenAsWantedAtItsOwnSize) {
   choose(f().mGet);  // disabled: nothing comes
   EXPECT_EQ(pixel(100, 100), kWhite);
   choose(f().mSendStash);
-  EXPECT_TRUE(f().mGet.Enabled);
   choose(f().mClear);
   drawDot(3000, 3000);
   choose(f().mGet);

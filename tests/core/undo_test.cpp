@@ -29,8 +29,7 @@ TEST_F(UndoTest, OneLevelTakesTheLastStrokeAndRepeatingItChangesNothing) {
     drawDot(3000, 3000);
     undo();
     const QImage once = f().PicPaint.Image;
-    EXPECT_EQ(pixel(100, 100), kWhite);
-    EXPECT_EQ(pixel(200, 200), kBlack);
+    EXPECT_EQ(std::pair(pixel(100, 100), pixel(200, 200)), std::pair(kWhite, kBlack));
     undo();
     EXPECT_EQ(QImage(f().PicPaint.Image), once);
   }
@@ -52,14 +51,12 @@ TEST_F(UndoTest, AfterAModeChangeTheSecondLevelGivesBackTheWholeCanvas) {
   EXPECT_TRUE(f().Caption.get().endsWith(QString("%1 x %2").arg(w).arg(h)));
 }
 
-// A new canvas size, then a stroke and undo: the canvas stays at the size the title gives.
 TEST_F(UndoTest, UndoKeepsTheSizeChosenForTheCanvas) {
   choose(f().m64x48);
   drawDot(1500, 1500);
   release(1500, 1500, vbRightButton);
   EXPECT_EQ(canvasSize(), QSize(640, 480));
-  EXPECT_EQ(f().PicUndo.Width.get(), f().PicPaint.Width.get());
-  EXPECT_EQ(pixel(100, 100), kBlack);
+  EXPECT_TRUE(f().PicUndo.Width == f().PicPaint.Width && pixel(100, 100) == kBlack);
   EXPECT_TRUE(f().Caption.get().endsWith("640 x 480"));
 }
 
@@ -67,11 +64,9 @@ TEST_F(UndoTest, TheClearCommandKeepsTheFileAndCannotBeUndoneAndUndoStopsTheTool
   drawDot(1500, 1500);
   m().CurrentFile = "C:\\pictures\\sky.bmp";
   choose(f().mClear);
-  EXPECT_EQ(pixel(100, 100), kBlack);
-  EXPECT_EQ(m().CurrentFile, "C:\\pictures\\sky.bmp");
+  EXPECT_TRUE(pixel(100, 100) == kBlack && m().CurrentFile == "C:\\pictures\\sky.bmp");
   choose(f().mnuUndo);
   EXPECT_EQ(pixel(100, 100), kBlack);
-  // Undo stops the tools running.
   f().tPenUp.Enabled = true;
   f().tAir.Enabled = true;
   choose(f().mnuUndo);
@@ -82,9 +77,7 @@ TEST_F(UndoTest, TheCanvasColourReplacesThePictureForGood) {
   drawDot(1500, 1500);
   f().lColor.BackColor = 0x0000FF;
   f().lColor.raiseDblClick();
-  EXPECT_EQ(pixel(100, 100), 0x0000FF);
-  EXPECT_EQ(f().lBg.BackColor.get(), 0x0000FF);
-  EXPECT_EQ(f().PicPaint.BackColor.get(), 0x0000FF);
+  EXPECT_EQ((std::vector<Colour>{pixel(100, 100), f().lBg.BackColor, f().PicPaint.BackColor}), std::vector<Colour>(3, 0x0000FF));
   choose(f().mnuUndo);
   EXPECT_EQ(pixel(100, 100), 0x0000FF);  // undo gives the new empty canvas
 }
@@ -93,17 +86,14 @@ TEST_F(UndoTest, NewGivesAnEmptyUntitledPencilCanvasInTheCanvasColourAndResetKee
   drawDot(1500, 1500);
   m().CurrentFile = "C:\\pictures\\sky.bmp";
   choose(f().mCvReset);
-  EXPECT_EQ(m().CurrentFile, "");
-  EXPECT_EQ(pixel(100, 100), kWhite);
+  EXPECT_TRUE(m().CurrentFile.isEmpty() && pixel(100, 100) == kWhite);
   choose(f().mShadow);
   m().CurrentFile = "C:\\pictures\\sky.bmp";
   f().mLock.Checked = true;
   f().CanvasLocked = -1;
   f().lBg.BackColor = 0x00FF00;
   choose(f().mnuNew);
-  EXPECT_EQ(m().PaintMode, 0);
-  EXPECT_EQ(m().CurrentFile, "");
-  EXPECT_EQ(f().CanvasLocked, 0);
+  EXPECT_TRUE(m().PaintMode == 0 && m().CurrentFile.isEmpty() && f().CanvasLocked == 0);
   EXPECT_EQ(pixel(100, 100), 0x00FF00);
   EXPECT_TRUE(f().Caption.get().contains("Untitled.bmp"));
 }

@@ -30,7 +30,7 @@ struct Panel : Form {
 struct ControlsTest : ::testing::Test {
   HeadlessRuntime h;
   Panel f{h.rt()};
-  int changes = 0, scrolls = 0, clicks = 0;
+  int changes = 0, clicks = 0;
 };
 
 TEST_F(ControlsTest, ScrollBarWithMinAboveMaxCountsUpwardFromTheTopArrow) {
@@ -87,8 +87,7 @@ TEST_F(ControlsTest, ScrollBarDragRaisesScrollThenChange) {
   v.dragTo(40);
   v.dragTo(40);    // a drag that ends where it began: only Scroll
   v.dragTo(1000);  // the thumb stops at the end
-  std::vector<std::pair<char, int>> want{{'S', 40}, {'C', 40}, {'S', 40}, {'S', 100}, {'C', 100}};
-  EXPECT_EQ(order, want);
+  EXPECT_EQ(order, (std::vector<std::pair<char, int>>{{'S', 40}, {'C', 40}, {'S', 40}, {'S', 100}, {'C', 100}}));
 }
 
 TEST_F(ControlsTest, ChangeEventsOfLabelsTextBoxesAndCheckBoxes) {
@@ -102,8 +101,7 @@ TEST_F(ControlsTest, ChangeEventsOfLabelsTextBoxesAndCheckBoxes) {
   auto& ck = f.ckVal;  // a check box: a click toggles, a written value clicks
   std::vector<int> clicked;
   ck.Click = [&] { clicked.push_back(ck.Value); };
-  ck.raiseClick();
-  ck.raiseClick();
+  for (int i = 0; i < 2; ++i) ck.raiseClick();
   ck.Value = 0;  // no change, no Click
   ck.Value = 2;
   ck.raiseClick();  // a grey box becomes checked
@@ -113,8 +111,7 @@ TEST_F(ControlsTest, ChangeEventsOfLabelsTextBoxesAndCheckBoxes) {
 }
 
 TEST_F(ControlsTest, OptionButtonsOfOneContainerExcludeEachOther) {
-  auto& a = f.opVert.add(0, &f, &f.fOpts, "opVert");
-  auto& b = f.opVert.add(1, &f, &f.fOpts, "opVert");
+  auto &a = f.opVert.add(0, &f, &f.fOpts, "opVert"), &b = f.opVert.add(1, &f, &f.fOpts, "opVert");
   auto& other = f.opOther.add(0, &f, nullptr, "opOther");
   std::vector<int> clicked;
   a.Click = [&] { clicked.push_back(0); };
@@ -131,7 +128,6 @@ TEST_F(ControlsTest, OptionButtonsOfOneContainerExcludeEachOther) {
 
 TEST_F(ControlsTest, ListIndexRules) {
   auto& l = f.lstFont;
-  int clicks = 0;
   l.Click = [&] { ++clicks; };
   EXPECT_EQ(l.ListIndex, -1);
   EXPECT_FALSE(trap([&] { l.ListIndex = 0; })) << "an empty list has no entry 0";
@@ -172,8 +168,7 @@ TEST_F(ControlsTest, MenuItemsAndDisabledMenusDoNotClick) {
 }
 
 TEST_F(ControlsTest, RegistryFindsControlsByNameAndArrayIndex) {
-  f.Shadow.add(5, &f, nullptr, "Shadow");
-  f.Shadow.add(24, &f, nullptr, "Shadow");
+  for (int i : {5, 24}) f.Shadow.add(i, &f, nullptr, "Shadow");
   EXPECT_EQ(f.find("vVal1"), &f.vVal1);
   EXPECT_EQ(f.find("Shadow(5)"), &f.Shadow(5));
   EXPECT_EQ(f.Shadow(24).key(), "Shadow(24)");
@@ -200,12 +195,10 @@ TEST_F(ControlsTest, FormAndFocusEventsComeInOrder) {
   f.Resize = [&] { events.push_back("Resize"); };
   f.Activate = [&] { events.push_back("Activate"); };
   f.Show();
-  f.Width = 9000;
-  f.Width = 9000;
+  for (int i = 0; i < 2; ++i) f.Width = 9000;
   f.Hide();
   f.Show();
   EXPECT_EQ(events, (std::vector<std::string>{"Load", "Resize", "Activate", "Resize", "Activate"}));
-  EXPECT_TRUE(f.Visible);
   events.clear();
   f.tName.GotFocus = [&] { events.push_back("tName+"); };
   f.tName.LostFocus = [&] { events.push_back("tName-"); };

@@ -33,8 +33,7 @@ TEST_F(Help, KeyListHelpPanelAndToolzMenu) {
   choose(f().mKeys);
   ASSERT_FALSE(headless.msgbox.shown().empty());
   const auto& box = headless.msgbox.shown().back();
-  EXPECT_EQ(box.title, "Keyboard Shortcuts");
-  EXPECT_TRUE(box.prompt.startsWith("Copy : SpaceBar\r\nPaste:  Insert Key\r\n"));
+  EXPECT_TRUE(box.title == "Keyboard Shortcuts" && box.prompt.startsWith("Copy : SpaceBar\r\nPaste:  Insert Key\r\n"));
   choose(f().mHelp);
   EXPECT_TRUE(f().fHelp.Visible && !f().txHelp.Text.get().isEmpty());
   f().cXhelp.raiseClick();

@@ -32,21 +32,18 @@ TEST_F(Layout, ALargerPictureBringsTheViewBarsAndTheyScroll) {
   Form_Resize(s());
   EXPECT_TRUE(f().vWidth.Visible && !f().vHigh.Visible);
   choose(f().mCustm);
-  EXPECT_TRUE(f().fCust.Visible);
-  EXPECT_EQ(f().PicPaint.MousePointer.get(), 1);
+  EXPECT_TRUE(f().fCust.Visible && f().PicPaint.MousePointer == 1);
   f().hCustm.Value = 24000;
   f().vCustm.Value = 9000;
   f().cCustm.raiseClick();
-  EXPECT_FALSE(f().fCust.Visible);
-  EXPECT_EQ(f().PicPaint.Width.get(), 24000);
+  EXPECT_TRUE(!f().fCust.Visible && f().PicPaint.Width == 24000);
   EXPECT_TRUE(f().vWidth.Visible && f().vHigh.Visible && f().mLo.Visible);
   f().vWidth.Value = 3000;
   EXPECT_EQ(QSizeF(f().PicPaint.Left, f().pPix.Left), QSizeF(-3000, -3000));
   // Without a file the canvas goes back to its frame at the next resize.
   m().CurrentFile = "";
   f().Width = f().Width + 15;
-  EXPECT_EQ(f().PicPaint.Width.get(), f().fMax.Width.get());
-  EXPECT_FALSE(f().vWidth.Visible);
+  EXPECT_TRUE(f().PicPaint.Width == f().fMax.Width && !f().vWidth.Visible);
 }
 
 TEST_F(Layout, GridAndPointerItems) {

@@ -9,14 +9,11 @@ using Modes = ProgramTest;
 TEST_F(Modes, SelectionItemsKeepTheDisplayOfTheModeBefore) {
   choose(f().mAir);
   choose(f().mSelRect);
-  EXPECT_EQ(m().PaintMode, 19);
-  EXPECT_EQ(f().lMode.Caption.get(), "AirBrush");
+  EXPECT_TRUE(m().PaintMode == 19 && f().lMode.Caption.get() == "AirBrush");
   // Transparency selection sets its flag and the smallest panel, without re-arming the panel.
   f().lStats.Caption = "kept";
   choose(f().mTrans);
-  EXPECT_EQ(f().TransparencySelect, -1);
-  EXPECT_EQ(m().PaintMode, 19);
-  EXPECT_EQ(f().PanelHeight, 2040);
+  EXPECT_TRUE(f().TransparencySelect == -1 && m().PaintMode == 19 && f().PanelHeight == 2040);
   EXPECT_EQ(f().lStats.Caption.get(), "kept");
 }
 
@@ -75,7 +72,7 @@ TEST_F(Modes, LeavingAModeTakesItsOwnSurfacesAway) {
   choose(f().mPencil);
   EXPECT_EQ(pixel(15, 10), 0xFF00FF);  // the pixel drawing moves back onto the canvas
   choose(f().mShadTx);
-  EXPECT_TRUE(f().fShad.Visible);
+  ASSERT_TRUE(f().fShad.Visible);
   choose(f().mPencil);
   EXPECT_FALSE(f().fShad.Visible);
 }
@@ -91,8 +88,7 @@ TEST_F(Modes, AnOffsetTooWideForTheNextModesBarStillGivesThatModeItsPanel) {
   for (const Control* c : std::initializer_list<const Control*>{&f().ckVal, &f().ckVal2, &f().cSwap, &f().fBow})
     EXPECT_TRUE(c->Visible) << c->key().toStdString();
   EXPECT_EQ(f().lStats.Caption.get(), "Proceed...");
-  EXPECT_EQ(f().vVal1.Value.get(), 960);
-  EXPECT_EQ(m().StepSize, 960);
+  EXPECT_EQ(std::pair(int(f().vVal1.Value), int(m().StepSize)), std::pair(960, 960));
 }
 
 }  // namespace qp::test

@@ -15,9 +15,8 @@ TEST_F(Startup, EveryScreenFontButTheFirstIsOfferedAndTheFreeAreasStayHidden) {
   EXPECT_EQ(QSize(f().lstFont.ListCount(), f().lstShad.ListCount()), QSize(fonts.size() - 1, fonts.size() - 1));
 }
 
-// The mode change that ends start-up puts every paint timer on the shared interval of 20 ms, so a
-// Boxes N Bubblez stroke right after start-up runs at 20 ms and not at its design 60. The key
-// timers keep their own pace.
+// The mode change that ends start-up puts every paint timer on the shared interval of 20 ms (Boxes
+// N Bubblez then runs at 20 ms, not at its design 60); the key timers keep their own pace.
 TEST(StartupTimers, DesignIntervalsGiveWayToTheSharedIntervalAtTheFirstModeChange) {
   HeadlessRuntime h;
   Program p(h.rt());

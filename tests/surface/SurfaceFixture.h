@@ -31,7 +31,6 @@ class SurfaceTest : public ::testing::Test {
     return c;
   }
 
-  // The colour expected at each pixel.
   struct Probe { int x, y; Colour c; };
   static void expectAt(const PictureBox& b, std::initializer_list<Probe> probes, const char* what = "") {
     for (const Probe& p : probes) EXPECT_EQ(GetPixel(b, p.x, p.y), p.c) << what << " at " << p.x << ", " << p.y;
