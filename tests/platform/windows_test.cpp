@@ -19,20 +19,12 @@ using namespace qp;
 namespace {
 
 struct Main : Form {
-  explicit Main(Runtime& rt) : Form(rt, "frmMain") {
-    Width = 6000;
-    Height = 4500;
-    pic.Move(150, 150, 1500, 1500);
-  }
+  explicit Main(Runtime& rt) : Form(rt, "frmMain") { pic.Move(150, 150, 1500, 1500); }
   PictureBox pic{this, nullptr, "pic"};
 };
 
 struct Dialog : Form {
-  explicit Dialog(Runtime& rt) : Form(rt, "frmDialog") {
-    Width = 4500;
-    Height = 3000;
-    txt.Move(150, 150, 3000, 1200);
-  }
+  explicit Dialog(Runtime& rt) : Form(rt, "frmDialog") { txt.Move(150, 150, 3000, 1200); }
   TextBox txt{this, nullptr, "txt"};
 };
 
@@ -78,8 +70,7 @@ TEST(ModalShow, OnScreenRunsQtsLoopUntilTheWindowHides) {
     d.Hide();
   });
   d.Show(true);  // returns only once the timer above has hidden the window
-  EXPECT_TRUE(modalOnScreen);
-  EXPECT_FALSE(d.Visible);
+  EXPECT_TRUE(modalOnScreen && !d.Visible);
 }
 
 TEST(WindowKeys, GoToTheWindowActiveNowOnceAnotherHides) {
@@ -123,8 +114,7 @@ TEST(MultiLineTextBox, ShowsAndEditsSeveralLines) {
   d.txt.Change = [&] { ++changes; };
   edit->moveCursor(QTextCursor::End);
   edit->insertPlainText("\nPaint");  // the user typing Enter and a word
-  EXPECT_EQ(d.txt.Text.get(), "Quillora\r\nPro\r\nPaint");
-  EXPECT_GT(changes, 0);
+  EXPECT_TRUE(d.txt.Text.get() == "Quillora\r\nPro\r\nPaint" && changes > 0) << d.txt.Text.get().toStdString();
   d.txt.Text = "one\r\ntwo\r\nthree";
   view.sync();
   EXPECT_EQ(edit->document()->blockCount(), 3);

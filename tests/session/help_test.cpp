@@ -33,15 +33,12 @@ TEST_F(Help, KeyListHelpPanelAndToolzMenu) {
   choose(f().mKeys);
   ASSERT_FALSE(headless.msgbox.shown().empty());
   const auto& box = headless.msgbox.shown().back();
-  EXPECT_EQ(box.title, "Keyboard Shortcuts");
-  EXPECT_TRUE(box.prompt.startsWith("Copy : SpaceBar\r\nPaste:  Insert Key\r\n"));
+  EXPECT_TRUE(box.title == "Keyboard Shortcuts" && box.prompt.startsWith("Copy : SpaceBar\r\nPaste:  Insert Key\r\n"));
   choose(f().mHelp);
-  EXPECT_TRUE(f().fHelp.Visible);
-  EXPECT_FALSE(f().txHelp.Text.get().isEmpty());
+  EXPECT_TRUE(f().fHelp.Visible && !f().txHelp.Text.get().isEmpty());
   f().cXhelp.raiseClick();
-  EXPECT_FALSE(f().fHelp.Visible);
-  EXPECT_EQ(f().lastPopup(), nullptr);  // a right click on the panel pops the Toolz menu up
-  f().fVal.raiseMouseUp(vbRightButton, 0, 100, 100);
+  EXPECT_TRUE(!f().fHelp.Visible && f().lastPopup() == nullptr);
+  f().fVal.raiseMouseUp(vbRightButton, 0, 100, 100);  // a right click on the panel pops the Toolz menu up
   EXPECT_EQ(f().lastPopup(), &f().mToolz);
 }
 

@@ -31,11 +31,14 @@ class SurfaceTest : public ::testing::Test {
     return c;
   }
 
-  // The colour expected at each pixel.
   struct Probe { int x, y; Colour c; };
   static void expectAt(const PictureBox& b, std::initializer_list<Probe> probes, const char* what = "") {
     for (const Probe& p : probes) EXPECT_EQ(GetPixel(b, p.x, p.y), p.c) << what << " at " << p.x << ", " << p.y;
   }
+
+  // The bitmap's size in pixels and the current drawing position.
+  static QSize pixels(const PictureBox& b) { return {b.pixelWidth(), b.pixelHeight()}; }
+  static QPointF at(const PictureBox& b) { return {b.CurrentX, b.CurrentY}; }
 
   static int count(const PictureBox& b, Colour c) {
     int n = 0;
