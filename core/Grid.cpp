@@ -4,19 +4,48 @@
 
 namespace qp {
 
+namespace {
+
+// The two lines and two labels of one surface's guides.
+struct Guides {
+  Line& x;
+  Line& y;
+  Label& lx;
+  Label& ly;
+};
+
+Guides guidesOf(frmCanvas& f, bool onPix) {
+  if (onPix) return {f.lnPX, f.lnPY, f.lLnPX, f.lLnPY};
+  return {f.lnX, f.lnY, f.lLnX, f.lLnY};
+}
+
+}  // namespace
+
 void ToggleGrid(Session& s) {
-  frmCanvas& f = s.f;
   // On the pixel surface the pixel guides are the ones that show.
-  const bool onPix = f.pPix.Visible;
-  Line& x = onPix ? f.lnPX : f.lnX;
-  Line& y = onPix ? f.lnPY : f.lnY;
-  Label& lx = onPix ? f.lLnPX : f.lLnX;
-  Label& ly = onPix ? f.lLnPY : f.lLnY;
-  const bool show = !x.Visible;
-  x.Visible = show;
-  y.Visible = show;
-  lx.Visible = show;
-  ly.Visible = show;
+  const Guides g = guidesOf(s.f, s.f.pPix.Visible);
+  const bool show = !g.x.Visible;
+  g.x.Visible = show;
+  g.y.Visible = show;
+  g.lx.Visible = show;
+  g.ly.Visible = show;
+}
+
+void FollowGuides(Session& s, bool onPix, Single X, Single Y) {
+  frmCanvas& f = s.f;
+  const Guides g = guidesOf(f, onPix);
+  if (!g.x.Visible) return;
+  g.x.X1 = X;
+  g.x.X2 = X;
+  g.y.Y1 = Y;
+  g.y.Y2 = Y;
+  // The labels stand off the pointer in the surface's own units: twips on the canvas, pixels on
+  // the pixel surface.
+  const Single near = onPix ? 10 : 100, farX = onPix ? 30 : 500, farY = onPix ? 30 : 400;
+  g.lx.Move(X + near, Y + farY);
+  g.lx.Caption = f.lX.Caption.get();
+  g.ly.Move(X + farX, Y + near);
+  g.ly.Caption = f.lY.Caption.get();
 }
 
 void HideGuides(Session& s) {

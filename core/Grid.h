@@ -7,6 +7,9 @@ namespace qp {
 void ToggleGrid(Session& s);
 // Puts away both sets of guides, with their labels.
 void HideGuides(Session& s);
+// Moves the shown guides of the canvas (or of the pixel surface) through the pointer, with their
+// labels beside it carrying the captions of lX and lY.
+void FollowGuides(Session& s, bool onPix, Single X, Single Y);
 void SetGridColors(Session& s);
 void SetPointerShape(Session& s, int shape);  // 2 cross, 1 arrow
 

@@ -77,16 +77,7 @@ void PicPaint_MouseMove(Session& s, int Button, int Shift, Single X, Single Y) {
   trap([&] {
     f.lX.Caption = "X : " + pixels(X);
     f.lY.Caption = "Y : " + pixels(Y);
-    if (f.lnX.Visible) {
-      f.lnX.X1 = X;
-      f.lnX.X2 = X;
-      f.lnY.Y1 = Y;
-      f.lnY.Y2 = Y;
-      f.lLnX.Move(X + 100, Y + 400);
-      f.lLnX.Caption = f.lX.Caption.get();
-      f.lLnY.Move(X + 500, Y + 100);
-      f.lLnY.Caption = f.lY.Caption.get();
-    }
+    FollowGuides(s, false, X, Y);
     ShowModeHelp(s);
     if (Button != vbLeftButton) return;
     setPointer(f, X, Y);

@@ -45,16 +45,7 @@ void pPix_MouseMove(Session& s, int Button, int, Single X, Single Y) {
   trap([&] {
     f.lX.Caption = "X : " + whole(X);
     f.lY.Caption = "Y : " + whole(Y);
-    if (f.lnPX.Visible) {
-      f.lnPX.X1 = X;
-      f.lnPX.X2 = X;
-      f.lnPY.Y1 = Y;
-      f.lnPY.Y2 = Y;
-      f.lLnPX.Move(X + 10, Y + 30);
-      f.lLnPX.Caption = f.lX.Caption.get();
-      f.lLnPY.Move(X + 30, Y + 10);
-      f.lLnPY.Caption = f.lY.Caption.get();
-    }
+    FollowGuides(s, true, X, Y);
     f.pPix.DrawWidth = s.m.DrawWidth;
     if (Button == vbLeftButton) {
       f.PointerX = X;
