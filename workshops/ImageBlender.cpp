@@ -97,6 +97,23 @@ void frmBlend_Unload(Session& s) {
   });
 }
 
+namespace {
+
+// The value row for blending or for erasing: its caption, the bar (Max before Min, as the row has
+// always been set, so the bar's clamping raises the same changes) and the value label.
+void setValueRow(frmBlend& b, const QString& caption, int max, int min, int value, int step,
+                 const QString& label) {
+  b.lValB.Caption = caption;
+  b.vVal.Max = max;
+  b.vVal.Min = min;
+  b.vVal.Value = value;
+  b.vVal.LargeChange = step;
+  b.vVal.SmallChange = step;
+  b.lVal.Caption = label;
+}
+
+}  // namespace
+
 void Blend_mBlend_Click(Session& s) {
   frmBlend& b = *blendWindow(s);
   if (b.BlueMode == 0) return;
@@ -105,13 +122,7 @@ void Blend_mBlend_Click(Session& s) {
     b.fRase.Visible = false;
     b.shErase.Visible = false;
     b.cGo.Enabled = false;
-    b.lValB.Caption = "Blend Percentage";
-    b.vVal.Max = 10;
-    b.vVal.Min = 90;
-    b.vVal.Value = 50;
-    b.vVal.LargeChange = 10;
-    b.vVal.SmallChange = 10;
-    b.lVal.Caption = "50%";
+    setValueRow(b, "Blend Percentage", 10, 90, 50, 10, "50%");
     Blend_mNew_Click(s);
   });
 }
@@ -122,13 +133,7 @@ void Blend_mBlue_Click(Session& s) {
   trap([&] {
     b.BlueMode = -1;
     b.fRase.Visible = true;
-    b.lValB.Caption = "Eraser Size";
-    b.vVal.Max = 2;
-    b.vVal.Min = 240;
-    b.vVal.Value = 2;
-    b.vVal.LargeChange = 1;
-    b.vVal.SmallChange = 1;
-    b.lVal.Caption = "2";
+    setValueRow(b, "Eraser Size", 2, 240, 2, 1, "2");
     Blend_mNew_Click(s);
   });
 }
