@@ -54,7 +54,6 @@ const SaveKind kSaveKinds[] = {
     {FileMode::SaveCropped, croppedImage, false},
     {FileMode::SaveBlended, blendedImage, false},
     {FileMode::SaveBlueScreen, blueScreenImage, false},
-    {FileMode::SaveMask, nullptr, false},
 };
 
 const SaveKind* saveKindOf(const QString& caption) {
