@@ -156,6 +156,7 @@ void PictureBox::resizeBitmap() {
   if (pw == image_.width() && ph == image_.height()) return;
   if (pw <= 0 || ph <= 0) {
     image_ = QImage();
+    copiedFrom_ = 0;
     dirty_ = QRect();
     return;
   }
@@ -170,6 +171,7 @@ void PictureBox::resizeBitmap() {
   }
   image_ = std::move(next);
   spare_ = QImage();
+  copiedFrom_ = 0;
   dirty_ = image_.rect();
 }
 
@@ -184,12 +186,26 @@ void PictureBox::clearTo(Colour c) {
   // A picture that covers the whole bitmap needs no background: share it instead of copying, so
   // that `X.Picture = X.Image` and Cls after it cost nothing until the next drawing call.
   if (!pic.isNull() && pic.size() == image_.size() && pic.format() == QImage::Format_RGB32) {
+    if (image_.isDetached() && copiedFrom_ == pic.cacheKey()) {
+      // The bitmap is the picture plus what was drawn since: putting back only that part keeps a
+      // Cls at every key or step (a live sample, typed text) from costing a whole copy.
+      const QRect r = drawnSinceCopy_ & image_.rect();
+      const size_t rowBytes = static_cast<size_t>(r.width()) * 4;
+      for (int y = r.top(); y <= r.bottom(); ++y)
+        std::memcpy(image_.scanLine(y) + r.left() * 4, pic.constScanLine(y) + r.left() * 4, rowBytes);
+      drawnSinceCopy_ = QRect();
+      dirty_ |= r;
+      return;
+    }
     // The bitmap's own pixels are kept for the next drawing call to copy the picture into: a
     // Cls at every step (a live sample) then reuses one buffer instead of taking fresh memory.
     QImage own = std::move(image_);
     image_ = pic;
     recycle(std::move(own));
+    copiedFrom_ = pic.cacheKey();
+    drawnSinceCopy_ = QRect();
   } else {
+    copiedFrom_ = 0;
     if (image_.isDetached()) {
       image_.fill(raster::toPixel(c));
     } else if (spare_.size() == image_.size()) {
@@ -234,6 +250,7 @@ void PictureBox::adoptPictureSize() {
   if (pic.format() == QImage::Format_RGB32) {
     image_ = pic;
     spare_ = QImage();
+    copiedFrom_ = 0;
   } else {
     image_ = QImage();
     resizeBitmap();
@@ -255,6 +272,7 @@ QImage& PictureBox::mutableBitmap() {
     editBitmap();
     image_.bits();
     dirty_ = image_.rect();
+    drawnSinceCopy_ = image_.rect();
   }
   return image_;
 }
@@ -278,7 +296,11 @@ void PictureBox::recycle(QImage&& old) {
     spare_ = std::move(old);
 }
 
-void PictureBox::markDirty(const QRect& pixels) { dirty_ |= pixels & image_.rect(); }
+void PictureBox::markDirty(const QRect& pixels) {
+  const QRect r = pixels & image_.rect();
+  dirty_ |= r;
+  drawnSinceCopy_ |= r;
+}
 
 QRect PictureBox::takeDirty() {
   const QRect r = dirty_;

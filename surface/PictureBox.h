@@ -181,6 +181,10 @@ class PictureBox : public VisualControl {
   QImage image_;
   QImage spare_;
   QRect dirty_;
+  // The picture the bitmap was last cleared to (its cache key, 0 for none) and what was drawn
+  // over it since, so that the next clear puts back only that part.
+  qint64 copiedFrom_ = 0;
+  QRect drawnSinceCopy_;
   bool refreshRequested_ = false;
   std::uint64_t charactersDrawn_ = 0;
 };

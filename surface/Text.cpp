@@ -60,8 +60,7 @@ void PictureBox::printLines(const QString& text, bool staysOnLine) {
     if (!FontTransparent) p.fillRect(cell, QColor::fromRgb(raster::toPixel(BackColor)));
     if (!line.isEmpty()) p.drawText(QPoint(x, y + fm.ascent()), line);
     charactersDrawn_ += static_cast<std::uint64_t>(line.size());
-    // Italic overhang and underline may reach a little past the advance.
-    markDirty(cell.adjusted(-2, 0, fm.maxWidth() / 2 + 2, 2));
+    markDirty(inkOf(cell, fm));
     if (!staysOnLine || i + 1 < lines.size()) y += fm.lineSpacing();
   }
   p.end();

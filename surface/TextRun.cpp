@@ -101,7 +101,7 @@ void PictureBox::PrintRun(const QString& text, const TextRun& run) {
     from = to;
   }
   p.end();
-  markDirty(cell.adjusted(-2, 0, fm.maxWidth() / 2 + 2, 2));
+  markDirty(inkOf(cell, fm));
   CurrentY = static_cast<Single>((y + fm.lineSpacing()) / pixelsPerUnitY() + ScaleTop);
 }
 
