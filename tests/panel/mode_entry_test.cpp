@@ -50,15 +50,11 @@ TEST_F(ModeEntry, PixelModesPaintOnACopyOfTheCanvas) {
   EXPECT_TRUE(f().mnuPaste.Enabled.get());
 }
 
-TEST_F(ModeEntry, CrazyPencilWidensThePenAndWarnsOnce) {
-  headless.msgbox.clear();
-  choose(f().mCrzyPen);
-  EXPECT_EQ(f().vPencil.Value.get(), 60);
-  EXPECT_EQ(int(m().DrawWidth), 60);
-  EXPECT_EQ(headless.msgbox.shown().size(), 1u);
-}
-
 TEST_F(ModeEntry, GroupsOfTheModesThatUseThem) {
+  choose(f().mCrzyPen);  // Crazy Pencil: a wide pen, and a single warning
+  EXPECT_EQ(std::pair(f().vPencil.Value.get(), int(m().DrawWidth)), std::pair(60, 60));
+  EXPECT_EQ(headless.msgbox.shown().size(), 1u);
+
   choose(f().mSpir2);  // GeoSpiralz: the full-canvas button instead of the pointer box
   EXPECT_TRUE(f().cCan.Visible.get());
   EXPECT_FALSE(f().ckHide.Visible.get());

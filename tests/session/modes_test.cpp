@@ -55,17 +55,6 @@ TEST_F(Modes, PanelHeightFollowsTheModeAndSomeModesKeepTheHeightBefore) {
   }
 }
 
-TEST_F(Modes, CrazyPencilMapsItsBarToMixingModesAndSkipsEleven) {
-  choose(f().mCrzyPen);
-  // The bar's value, the drawing mode, the value the label tells: 11 is skipped, keeping the 9's.
-  for (const auto& [v, mode, told] : {std::tuple{0, 2, 0}, std::tuple{8, 10, 8}, std::tuple{9, 12, 9}, std::tuple{11, 12, 9}}) {
-    f().vVal1.Value = v;
-    ApplyCrazyDrawMode(s());
-    EXPECT_EQ(f().PicPaint.DrawMode.get(), mode) << v;
-    EXPECT_EQ(f().lVal1.Caption.get(), QString("DrawMode : %1").arg(told)) << v;
-  }
-}
-
 TEST_F(Modes, LeavingAModeTakesItsOwnSurfacesAway) {
   ASSERT_TRUE(f().pPix.Visible);  // Freehand Spiralz works in pixels
   f().pPix.Line(10, 10, 20, 10, 0xFF00FF);

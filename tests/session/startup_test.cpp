@@ -1,6 +1,5 @@
 // Start-up, the exits and the window title.
 #include "support/ProgramFixture.h"
-#include "core/Layout.h"
 
 namespace qp::test {
 
@@ -24,14 +23,6 @@ TEST(StartupTimers, DesignIntervalsGiveWayToTheSharedIntervalAtTheFirstModeChang
   p.start();
   for (const auto& [timer, started] : {std::pair{&p.f.tBrush, 20}, std::pair{&p.f.tAir, 20}, std::pair{&p.f.tPenUp, 120}})
     EXPECT_EQ(timer->Interval.get(), started) << timer->Name().toStdString();
-}
-
-TEST_F(Startup, TitleNamesTheCanvasAndItsSize) {
-  const int w = CInt(f().PicPaint.Width / 15.0), h = CInt(f().PicPaint.Height / 15.0);
-  EXPECT_EQ(f().Caption.get(), QString(" Quillora Pro - Untitled.bmp - %1 x %2").arg(w).arg(h));
-  m().CurrentFile = "/home/ann/pictures/cat.bmp";
-  SetTitle(s());
-  EXPECT_EQ(f().Caption.get(), QString(" Quillora Pro - cat.bmp   %1 x %2").arg(w).arg(h));
 }
 
 TEST_F(Startup, ClosingTheWindowLeavesThePictureOnTheClipboardAndExitDoesNot) {
