@@ -1,5 +1,5 @@
 // The undo levels as the user meets them: the menu, the keys, the right click, clearing, new
-// canvases and the canvas colour.
+// canvases and the canvas colour; the stash, and pasting with setting the floating picture down.
 #include <QImage>
 
 #include "core/Keyboard.h"
@@ -8,6 +8,8 @@
 
 namespace qp::test {
 namespace {
+
+constexpr Colour kRed = 0x0000FF;
 
 class UndoTest : public PencilTest {
  protected:
@@ -92,6 +94,46 @@ TEST_F(UndoTest, ResetForgetsTheFileButKeepsThePictureAndNewFillsTheCanvasColour
   f().lBg.BackColor = 0x00FF00;
   choose(f().mnuNew);
   EXPECT_EQ(pixel(100, 100), 0x00FF00);
+}
+
+TEST_F(UndoTest, TheStashIsFetchedOnlyAfterASendAsOftenAsWantedAtItsOwnSize) {
+  EXPECT_FALSE(f().mGet.Enabled);
+  drawDot(1500, 1500);
+  choose(f().mGet);  // disabled: nothing comes
+  EXPECT_EQ(pixel(100, 100), kWhite);
+  choose(f().mSendStash);
+  choose(f().mClear);
+  drawDot(3000, 3000);
+  choose(f().mGet);
+  EXPECT_EQ(std::pair(pixel(100, 100), pixel(200, 200)), std::pair(kWhite, kBlack));
+  choose(f().mnuUndo);  // the fetch can be undone
+  EXPECT_EQ(std::pair(pixel(100, 100), pixel(200, 200)), std::pair(kBlack, kWhite));
+  const Single w = f().PicPaint.Width, h = f().PicPaint.Height;
+  choose(f().m64x48);
+  choose(f().mGet);  // and the stash is still there, at the size it was sent
+  EXPECT_EQ(pixel(100, 100), kWhite);
+  EXPECT_TRUE(f().PicPaint.Width < w && f().PicPaint.Height < h);
+}
+
+TEST_F(UndoTest, APasteFloatsUnderABlinkingFrameAndAClickSetsItDownWithinTheFrame) {
+  drawDot(1500, 1500);
+  QImage red(20, 10, QImage::Format_RGB32);
+  red.fill(qRgb(255, 0, 0));
+  headless.clipboard.SetData(red);
+  choose(f().mnuPaste);
+  EXPECT_EQ(f().DrawShape.Width.get(), 300);  // the frame fits the picture
+  EXPECT_TRUE(f().tTemp.Enabled);             // and blinks
+  EXPECT_EQ(pixel(33, 33), kBlack);  // not on the canvas yet
+  f().DrawShape.Width = 600;  // a frame stretched to twice the width stretches the picture
+  f().pTemp.raiseMouseDown(vbRightButton, 0, 10, 10);  // a right click does not set it down
+  EXPECT_TRUE(f().pTemp.Visible);
+  EXPECT_EQ(pixel(33, 33), kBlack);
+  f().pTemp.raiseMouseDown(vbLeftButton, 0, 10, 10);
+  for (const auto& [x, c] : {std::pair{33, kRed}, std::pair{70, kRed}, std::pair{75, kBlack}}) EXPECT_EQ(pixel(x, 33), c) << x;
+  EXPECT_FALSE(f().DrawShape.Visible || f().tTemp.Enabled);
+  choose(f().mnuUndo);
+  EXPECT_EQ(pixel(33, 33), kBlack);
+  EXPECT_EQ(pixel(100, 100), kWhite);
 }
 
 }  // namespace
