@@ -24,25 +24,22 @@ class KeyboardTest : public PencilTest {
 };
 using WidthKeysTest = KeyboardTest;
 
-TEST_F(KeyboardTest, EnterAndShiftJumpTheWidthToItsLimits) {
+TEST_F(KeyboardTest, EnterAndShiftJumpTheWidthToItsLimitsAndATextPanelKeepsTheTypingKeys) {
   for (const auto& [code, width] : {std::pair{int(vbKeyReturn), 24}, std::pair{int(vbKeyShift), 4}}) {
     key(code);
-    EXPECT_EQ(m().DrawWidth, width);
-    EXPECT_EQ(f().vPencil.Value.get(), width);
+    EXPECT_EQ(std::pair(int(m().DrawWidth), f().vPencil.Value.get()), std::pair(width, width));
   }
-}
-
-TEST_F(KeyboardTest, WithATextPanelOpenOnlyTheKeysThatTypeNothingAct) {
+  // With a text panel open only the keys that type nothing act.
   f().fText.Visible = true;
+  key(vbKeyReturn);
   key(vbKeyShift);  // a capital letter in the text box, not a width
-  EXPECT_EQ(m().DrawWidth, 1);
+  EXPECT_EQ(m().DrawWidth, 24);
   key(vbKey1 + 3);
   EXPECT_NE(m().ColorOption, 3);
   key(vbKeyCapital);
   EXPECT_FALSE(f().lnX.Visible);
   key(vbKeyNumpad0 + 3);  // the keypad still chooses
   EXPECT_EQ(m().ColorOption, 3);
-  key(vbKeyReturn);
   f().fText.Visible = false;
   f().fShad.Visible = true;  // the other text panel too
   key(vbKeyShift);
@@ -59,7 +56,9 @@ TEST_F(KeyboardTest, DeleteClearsForgetsTheFileAndBackspaceUndoesIt) {
   EXPECT_EQ(pixel(100, 100), kWhite);
 }
 
-TEST_F(KeyboardTest, SpacebarCopiesTheCanvasAndSetsAReturnPoint) {
+TEST_F(KeyboardTest, SpacebarCopiesTheCanvasAndSetsAReturnPointAndInsertFloatsTheCopy) {
+  key(vbKeyInsert);  // nothing on the clipboard yet: nothing floats
+  EXPECT_EQ(m().PaintMode, 0);
   drawDot(1500, 1500);
   key(vbKeySpace);
   const QImage copied = headless.clipboard.GetData();
@@ -69,14 +68,6 @@ TEST_F(KeyboardTest, SpacebarCopiesTheCanvasAndSetsAReturnPoint) {
   f().PicPaint.Line(0, 0, 6000, 6000, 0x0000FF);
   key(vbKeyBack);
   EXPECT_EQ(std::pair(pixel(100, 100), pixel(300, 300)), std::pair(kWhite, kBlack));
-}
-
-TEST_F(KeyboardTest, InsertFloatsTheClipboardsPictureWhenThereIsOne) {
-  key(vbKeyInsert);
-  EXPECT_EQ(m().PaintMode, 0);
-  QImage red(20, 10, QImage::Format_RGB32);
-  red.fill(qRgb(255, 0, 0));
-  headless.clipboard.SetData(red);
   key(vbKeyInsert);
   EXPECT_TRUE(m().PaintMode == 22 && f().pTemp.Visible);
 }
@@ -176,8 +167,7 @@ TEST_F(WidthKeysTest, HoldKeepsTheWidthMovingUntilTheLimitAndTheTimersNeverRunTo
 TEST_F(WidthKeysTest, TheSprayFollowsTheWidthOnlyWithTheSecondBox) {
   m().PaintMode = 3;
   // The second box, the arrow held two ticks, the spread before and after.
-  const struct { int box, code, before, after; } cases[] = {
-      {0, vbKeyUp, 5, 5}, {1, vbKeyUp, 5, 9}, {0, vbKeyDown, 20, 20}};
+  const struct { int box, code, before, after; } cases[] = {{0, vbKeyUp, 5, 5}, {1, vbKeyUp, 5, 9}, {0, vbKeyDown, 20, 20}};
   for (const auto& c : cases) {
     f().ckVal2.Value = c.box;
     f().AirSpread = c.before;

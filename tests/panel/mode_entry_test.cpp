@@ -1,4 +1,5 @@
-// Entering a paint mode: the panel's value rows it arms, and what it switches on or off besides.
+// Choosing a paint mode: the panel's value rows it arms, what it switches on or off besides, the
+// display, the reset of the panel, the panel height, the exceptions.
 #include "core/Panel.h"
 #include "support/ProgramFixture.h"
 
@@ -79,83 +80,115 @@ TEST_F(ModeEntry, GroupsOfTheModesThatUseThem) {
   EXPECT_TRUE(f().cCan.Enabled.get());
 }
 
-namespace {
-
-constexpr int kColourOption = -1;  // the bar takes the session's colour option
-enum Frame { Hidden, Dim, Live, HiddenLive };  // a row's look: not shown, shown dim or live
-
-struct Row {
-  int min = 0, max = 0, value = 0, small = 0, large = 0;
-  Frame look = Hidden;
-};
-
-struct ModeExpect {
-  const char* menu;
-  int mode;
-  std::array<Row, 5> rows;
-  int panelRows;        // -1: the height of the mode before
-  const char* display;  // nullptr: the display of the mode before
-  const char* stats;    // nullptr: the state word is not touched
-};
-
-const Row off{};
-
-// One mode for each kind of row and panel: dim, live, hidden but live, the colour option, a
-// mode that leaves the display alone and one that keeps the panel height.
-const ModeExpect kModes[] = {
-    {"mPencil", 0, {Row{40, 1, 4, 1, 1, Dim}, off, off, off, off}, 0, "Freehand Pencil", "Proceed..."},
-    {"mSngBox", 2, {Row{960, 40, 40, 10, 10, Dim}, Row{7, 0, 1, 1, 1, Live}, Row{3, 0, 0, 1, 1, Live}, off, off},
-     2, "Draw Shapes", "Proceed..."},
-    {"mBrushes", 7, {Row{55, 0, 0, 1, 1, Live}, Row{20, 1, 4, 1, 1, Live}, Row{0, 0, 0, 0, 0, HiddenLive}, off, off},
-     0, "Brushes", "Horizontal"},
-    {"mBallz", 8, {Row{500, 20, 50, 2, 2, Live}, Row{25, 1, 10, 1, 1, Live}, Row{24, 1, 6, 1, 1, Live},
-                   Row{6, 0, kColourOption, 1, 1, Live}, off}, 2, "Gradient Spheres", "Proceed..."},
-    {"mSelClr", 18, {off, off, off, off, off}, 0, nullptr, nullptr},
-    {"mTxBrush", 20, {off, off, off, off, off}, -1, "Text Brush", "Interval : 200"},
-};
-
-void PrintTo(const ModeExpect& e, std::ostream* os) { *os << e.menu; }
-
-class ModeRows : public ProgramTest, public ::testing::WithParamInterface<ModeExpect> {};
-
-}  // namespace
-
-TEST_P(ModeRows, EnteringTheModeArmsItsRows) {
-  const ModeExpect& e = GetParam();
-  // Shadow Text first: no rows, the tallest panel, a display and a state word of its own, so that
-  // whatever a mode leaves alone shows.
-  choose(f().mShadTx);
-  f().lStats.Caption = "left alone";
-  choose(e.menu);
-  ASSERT_EQ(m().PaintMode, e.mode);
-
-  for (int n = 1; n <= 5; ++n) {
-    SCOPED_TRACE("row " + std::to_string(n));
-    const Row& r = e.rows[static_cast<size_t>(n - 1)];
-    const VScrollBar& bar = f().valueBar(n);
-    const bool shown = r.look == Dim || r.look == Live;
-    EXPECT_EQ(bar.Visible.get(), shown);
-    EXPECT_EQ(f().valueLabel(n).Visible.get(), shown);
-    EXPECT_EQ(f().Shadow(n).Visible.get(), shown);
-    const bool live = r.look == Live || r.look == HiddenLive;
-    EXPECT_EQ(f().Shadow(n).BorderColor.get(), live ? 0xFF8080u : 0x808080u);
-    if (r.small == 0) continue;  // a frame without a bar of its own
-    EXPECT_EQ(bar.Min.get(), r.min);
-    EXPECT_EQ(bar.Max.get(), r.max);
-    EXPECT_EQ(bar.Value.get(), r.value == kColourOption ? int(m().ColorOption) : r.value);
-    EXPECT_EQ(bar.SmallChange.get(), r.small);
-    EXPECT_EQ(bar.LargeChange.get(), r.large);
+// One mode for each kind of row and panel: dim, live, hidden but live, the colour option, a mode
+// that leaves the display alone and one that keeps the panel height.
+TEST_F(ModeEntry, EnteringTheModeArmsItsRows) {
+  enum Look { Hidden, Dim, Live, HiddenLive };  // a row not shown, shown dim or live, or hidden but live
+  constexpr int kColourOption = -1;             // the bar takes the session's colour option
+  struct Row { Look look = Hidden; int min = 0, max = 0, value = 0, small = 0, large = 0; };
+  // The rows, the panel's rows, the display and the state word (nullptr: left alone).
+  struct Mode { const char* menu; std::array<Row, 4> rows; int panelRows; const char *display, *stats; };
+  const Mode modes[] = {
+      {"mPencil", {Row{Dim, 40, 1, 4, 1, 1}}, 0, "Freehand Pencil", "Proceed..."},
+      {"mSngBox", {Row{Dim, 960, 40, 40, 10, 10}, {Live, 7, 0, 1, 1, 1}, {Live, 3, 0, 0, 1, 1}}, 2, "Draw Shapes", "Proceed..."},
+      {"mBrushes", {Row{Live, 55, 0, 0, 1, 1}, {Live, 20, 1, 4, 1, 1}, {HiddenLive}}, 0, "Brushes", "Horizontal"},
+      {"mBallz", {Row{Live, 500, 20, 50, 2, 2}, {Live, 25, 1, 10, 1, 1}, {Live, 24, 1, 6, 1, 1}, {Live, 6, 0, kColourOption, 1, 1}},
+       2, "Gradient Spheres", "Proceed..."},
+      {"mSelClr", {}, 0, nullptr, nullptr},
+      {"mTxBrush", {}, 4, "Text Brush", "Interval : 200"}};
+  for (const Mode& e : modes) {
+    SCOPED_TRACE(e.menu);
+    // Shadow Text first: no rows, the tallest panel, a display and a state word of its own.
+    choose(f().mShadTx);
+    f().lStats.Caption = "left alone";
+    choose(e.menu);
+    for (int n = 1; n <= 5; ++n) {
+      const Row r = n <= 4 ? e.rows[size_t(n - 1)] : Row{};
+      const VScrollBar& bar = f().valueBar(n);
+      const bool shown = r.look == Dim || r.look == Live;
+      EXPECT_EQ((std::vector<bool>{bar.Visible, f().valueLabel(n).Visible, f().Shadow(n).Visible}), std::vector<bool>(3, shown)) << n;
+      EXPECT_EQ(f().Shadow(n).BorderColor.get(), r.look == Live || r.look == HiddenLive ? kLiveFrame : kDimFrame) << n;
+      if (r.small == 0) continue;  // a frame without a bar of its own
+      const int value = r.value == kColourOption ? int(m().ColorOption) : r.value;
+      EXPECT_EQ((std::vector<int>{bar.Min, bar.Max, bar.Value, bar.SmallChange, bar.LargeChange}),
+                (std::vector<int>{r.min, r.max, value, r.small, r.large})) << n;
+    }
+    EXPECT_EQ(int(f().PanelRows), e.panelRows);
+    EXPECT_EQ(std::pair(f().lMode.Caption.get(), f().lModeB.Caption.get()),
+              std::pair(QString(e.display ? e.display : "Shadow Text"), QString(e.display ? e.display : "Shadow Text")));
+    EXPECT_EQ(f().lStats.Caption.get(), e.stats ? e.stats : "left alone");
   }
-  EXPECT_EQ(int(f().PanelRows), e.panelRows < 0 ? 4 : e.panelRows);
-  EXPECT_EQ(f().lMode.Caption.get(), e.display ? e.display : "Shadow Text");
-  EXPECT_EQ(f().lModeB.Caption.get(), e.display ? e.display : "Shadow Text");
-  if (e.display) {
-    EXPECT_EQ(f().PriorMode, e.mode);
-  }
-  EXPECT_EQ(f().lStats.Caption.get(), e.stats ? e.stats : "left alone");
 }
 
-INSTANTIATE_TEST_SUITE_P(EveryMode, ModeRows, ::testing::ValuesIn(kModes),
-                         [](const auto& info) { return std::string(info.param.menu); });
+using Modes = ProgramTest;
+
+TEST_F(Modes, SelectionItemsKeepTheDisplayOfTheModeBefore) {
+  choose(f().mAir);
+  choose(f().mSelRect);
+  EXPECT_TRUE(m().PaintMode == 19 && f().lMode.Caption.get() == "AirBrush");
+  // Transparency selection sets its flag and the smallest panel, without re-arming the panel.
+  f().lStats.Caption = "kept";
+  choose(f().mTrans);
+  EXPECT_TRUE(f().TransparencySelect == -1 && m().PaintMode == 19 && f().PanelHeight == 2040);
+  EXPECT_EQ(f().lStats.Caption.get(), "kept");
+}
+
+TEST_F(Modes, ModeChangeResetsThePanelBeforeTheModesOwnSettings) {
+  choose(f().mBallz);  // four live rows
+  f().PicPaint.DrawMode = 7;
+  f().PicPaint.FillStyle = 0;
+  f().vInt.Value = 300;
+  choose(f().mPencil);
+  EXPECT_FALSE(f().vVal4.Visible);
+  EXPECT_EQ(f().Shadow(1).BorderColor.get(), kDimFrame);  // the speed row waits for AutoDraw
+  const int reset[] = {f().PicPaint.DrawMode, f().PicPaint.FillStyle, f().vInt.Value};
+  EXPECT_EQ(std::vector(std::begin(reset), std::end(reset)), (std::vector{13, 1, 20}));
+  f().ckVal2.Value = 1;  // a ticked box does not carry over into a mode that has no use for it
+  choose(f().mFF);
+  EXPECT_EQ(f().ckVal2.Value.get(), 0);
+}
+
+TEST_F(Modes, ChoosingTheSameModeAgainBakesTheCanvasAndResetsTheArrowPointer) {
+  choose(f().mPencil);
+  f().mArrow.raiseClick();
+  f().PointerShape = 1;
+  f().PicPaint.Line(0, 0, 1500, 0, 0x0000FF);
+  choose(f().mPencil);
+  EXPECT_EQ(f().PointerShape, 2);
+  release(30, 30, vbRightButton);  // the drawing is now the snapshot: a quick undo keeps it
+  EXPECT_EQ(pixel(50, 0), 0x0000FF);
+}
+
+TEST_F(Modes, PanelHeightFollowsTheModeAndSomeModesKeepTheHeightBefore) {
+  // The item chosen, the panel height and where the help line then stands.
+  for (const auto& [item, height, helpTop] : {std::tuple{&f().mSngBox, 3000, 3015},
+                                              std::tuple{&f().mCircFx, 3000, 3615},  // keeps the height before
+                                              std::tuple{&f().mPencil, 2040, 2055}}) {
+    choose(*item);
+    EXPECT_EQ(f().PanelHeight, height) << item->Name().toStdString();
+    EXPECT_EQ(f().lHelp.Top.get(), helpTop) << item->Name().toStdString();
+  }
+}
+
+TEST_F(Modes, LeavingAModeTakesItsOwnPanelAway) {
+  choose(f().mShadTx);
+  ASSERT_TRUE(f().fShad.Visible);
+  choose(f().mPencil);
+  EXPECT_FALSE(f().fShad.Visible);
+}
+
+// A mode's bar may take its value from a session variable that another mode's wider bar has
+// pushed past this bar's end. The mode still builds its whole panel, the bar standing at its end.
+TEST_F(Modes, AnOffsetTooWideForTheNextModesBarStillGivesThatModeItsPanel) {
+  choose(f().mSingle);
+  f().ckVal.Value = 1;  // the offset row answers once the shadow line is on
+  f().vVal1.Value = 1200;
+  ASSERT_EQ(m().StepSize, 1200);
+  choose(f().mShadow);  // its offset bar ends at 960
+  for (const Control* c : std::initializer_list<const Control*>{&f().ckVal, &f().ckVal2, &f().cSwap, &f().fBow})
+    EXPECT_TRUE(c->Visible) << c->key().toStdString();
+  EXPECT_EQ(f().lStats.Caption.get(), "Proceed...");
+  EXPECT_EQ(std::pair(int(f().vVal1.Value), int(m().StepSize)), std::pair(960, 960));
+}
 
 }  // namespace qp::test

@@ -98,7 +98,7 @@ TEST_F(Pipeline, AFailingToolEndsOnlyItsOwnStep) {
   EXPECT_FALSE(f().tGrad.Enabled);  // the closing steps still ran
 }
 
-TEST_F(Pipeline, RightPressDoesNothingButItsFirstStepAndItsReleaseShowsThePointer) {
+TEST_F(Pipeline, RightPressDoesNothingButItsFirstStepAndItsReleaseShowsThePointerOrPicksWithCtrl) {
   f().ckHide.Value = 1;
   press(150, 150);
   f().lTell.Caption = "Maximum";
@@ -108,9 +108,7 @@ TEST_F(Pipeline, RightPressDoesNothingButItsFirstStepAndItsReleaseShowsThePointe
   EXPECT_TRUE(f().lTell.Caption.get().isEmpty() && f().lXb.ToolTipText.get().isEmpty());
   release(150, 150, vbRightButton);
   EXPECT_EQ(f().PicPaint.MousePointer.get(), 2);
-}
-
-TEST_F(Pipeline, CtrlRightPicksTheColourAndSkipsTheClosingSteps) {
+  // With Ctrl the right release picks the colour and skips the closing steps.
   f().PicPaint.Line(0, 300, 600, 300, 0x123456);
   f().CtrlDown = -1;
   f().tGrad.Enabled = true;
