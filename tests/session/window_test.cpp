@@ -21,17 +21,6 @@ TEST_F(Startup, EveryScreenFontButTheFirstIsOfferedAndTheFreeAreasStayHidden) {
   EXPECT_EQ(QSize(f().lstFont.ListCount(), f().lstShad.ListCount()), QSize(fonts.size() - 1, fonts.size() - 1));
 }
 
-// The mode change that ends start-up puts every paint timer on the shared interval of 20 ms (Boxes
-// N Bubblez then runs at 20 ms, not at its design 60); the key timers keep their own pace.
-TEST(StartupTimers, DesignIntervalsGiveWayToTheSharedIntervalAtTheFirstModeChange) {
-  HeadlessRuntime h;
-  Program p(h.rt());
-  EXPECT_EQ(p.f.tBrush.Interval.get(), 60);
-  p.start();
-  for (const auto& [timer, started] : {std::pair{&p.f.tBrush, 20}, std::pair{&p.f.tAir, 20}, std::pair{&p.f.tPenUp, 120}})
-    EXPECT_EQ(timer->Interval.get(), started) << timer->Name().toStdString();
-}
-
 TEST_F(Startup, ClosingTheWindowLeavesThePictureOnTheClipboardAndExitDoesNot) {
   choose(f().mPencil);
   f().PicPaint.Line(0, 0, 300, 300, 0x00FF00);
