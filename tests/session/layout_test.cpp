@@ -57,11 +57,6 @@ TEST_F(Layout, GridAndPointerItems) {
   choose(f().mFF);  // works on the pixel surface
   choose(f().mCoords);
   EXPECT_TRUE(f().lnPX.Visible && !f().lnX.Visible);
-  // The arrow pointer lasts until the next mode change.
-  choose(f().mArrow);
-  EXPECT_TRUE(f().PicPaint.MousePointer == 1 && f().mArrow.Checked);
-  choose(f().mAir);
-  EXPECT_TRUE(f().PicPaint.MousePointer == 2 && f().PointerShape == 2);
 }
 
 using Help = ProgramTest;

@@ -86,7 +86,7 @@ TEST_F(Pipeline, ReleaseRunsTheToolThenTheClosingStepsWhereverItFalls) {
   EXPECT_EQ(QPoint(f().AutoDrawX, f().AutoDrawY), QPoint(600, 750));
 }
 
-TEST_F(Pipeline, AFailingToolEndsOnlyItsOwnStep) {
+TEST_F(Pipeline, AFailingToolEndsOnlyItsOwnStepAndAReleaseGoesToTheModeOfTheMoment) {
   const StrokeHook fails = [](Session&, int, Single, Single) { raiseError(RuntimeError::Overflow); };
   program->tools.set(1, strokeHooks(fails, {}, fails));
   press(150, 150);
@@ -95,6 +95,14 @@ TEST_F(Pipeline, AFailingToolEndsOnlyItsOwnStep) {
   f().tGrad.Enabled = true;
   release(150, 150);
   EXPECT_FALSE(f().tGrad.Enabled);  // the closing steps still ran
+  // A release after a mode change runs the new mode's release.
+  program->tools.set(1, strokeHooks(record('P'), record('M'), record('R')));
+  press(150, 150);
+  std::vector<char> other;
+  program->tools.set(3, strokeHooks({}, {}, [&](Session&, int, Single, Single) { other.push_back('R'); }));
+  m().PaintMode = 3;
+  release(150, 150);
+  EXPECT_TRUE(other.size() == 1 && calls.back().what == 'P');
 }
 
 TEST_F(Pipeline, RightPressDoesNothingButItsFirstStepAndItsReleaseShowsThePointerOrPicksWithCtrl) {
@@ -118,15 +126,6 @@ TEST_F(Pipeline, RightPressDoesNothingButItsFirstStepAndItsReleaseShowsThePointe
   EXPECT_EQ(pixel(10, 20), 0x123456);  // no undo: the picture is left alone
   release(-150, -150, vbRightButton);  // off the canvas the pick gives -1, stored as it is
   EXPECT_EQ(m().ForeClr, -1);
-}
-
-TEST_F(Pipeline, ReleaseAfterAModeChangeRunsTheNewModesRelease) {
-  press(150, 150);
-  std::vector<char> other;
-  program->tools.set(3, strokeHooks({}, {}, [&](Session&, int, Single, Single) { other.push_back('R'); }));
-  m().PaintMode = 3;
-  release(150, 150);
-  EXPECT_TRUE(other.size() == 1 && calls.back().what == 'P');
 }
 
 TEST_F(Pipeline, IntervalBarRetunesThePaintTimersUnlessAutoDrawRuns) {

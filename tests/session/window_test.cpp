@@ -43,7 +43,6 @@ class Window : public ProgramTest {
     pic = view->widgetFor(&f().PicPaint);
     ASSERT_NE(pic, nullptr);
   }
-  void TearDown() override { view.reset(); }
 
   // Holds the key for ms as Qt delivers it: a press, then after the repeat delay a release and a
   // press marked as auto-repeat every 33 ms, then the real release. The clock runs meanwhile.
