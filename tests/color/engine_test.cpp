@@ -11,19 +11,12 @@ class ColourEngineTest : public ProgramTest {
  protected:
   Rgb running() { return {m().ClrRed, m().ClrGreen, m().ClrBlue}; }
   void setRunning(Rgb c) { m().ClrRed = c.r, m().ClrGreen = c.g, m().ClrBlue = c.b; }
-  // The colour the tools draw with, the two colour boxes and the hidden bars agree with the walk.
-  void expectShown(Rgb c) {
-    const Colour rgb = RGB(c.r, c.g, c.b);
-    EXPECT_EQ((std::vector<Colour>{m().ForeClr.value(), f().lForclr.BackColor, f().lColor.BackColor}), std::vector<Colour>(3, rgb));
-    EXPECT_EQ(std::pair(int(f().vRed.Value), int(f().vBlu.Value)), std::pair(c.r, c.b));
-  }
 };
 
 TEST_F(ColourEngineTest, RainbowStepsMayReachTheCeilingAndFloorButNotPassThem) {
   // Every component at start; the value after a step up and down, start when refused.
   struct Case { int start, variance, up, down; };
-  for (const Case c : {Case{250, 10, 250, 240}, Case{245, 10, 255, 235}, Case{30, 10, 40, 20}, Case{25, 10, 35, 25},
-                       Case{100, 10, 110, 90}}) {
+  for (const Case c : {Case{250, 10, 250, 240}, Case{245, 10, 255, 235}, Case{30, 10, 40, 20}, Case{25, 10, 35, 25}}) {
     bool sawUp = false, sawDown = false;
     for (int i = 0; i < 60; ++i) {
       setRunning({c.start, c.start, c.start});
@@ -42,7 +35,7 @@ TEST_F(ColourEngineTest, RainbowStepsMayReachTheCeilingAndFloorButNotPassThem) {
   }
 }
 
-TEST_F(ColourEngineTest, GlowStaysInItsHueFamilyAndLeavesOthersUntilAStepSucceeds) {
+TEST_F(ColourEngineTest, GlowStaysInTheHueFamilyItsOwnComponentDrivesAndLeavesOthersUntilAStepSucceeds) {
   f().vColors.Value = 1, f().vColmode.Value = 2;  // red, Glow
   setRunning({250, 100, 70});
   // At 250 a step up of 10 is refused and writes nothing; the first step down clears green, blue.
@@ -54,11 +47,11 @@ TEST_F(ColourEngineTest, GlowStaysInItsHueFamilyAndLeavesOthersUntilAStepSucceed
   for (int i = 0; i < 200; ++i) {
     StepGlowColor(s(), 30);
     EXPECT_TRUE(m().ClrRed >= 20 && m().ClrRed <= 255 && m().ClrGreen == 0) << m().ClrRed << "," << m().ClrGreen;
-    expectShown(running());
+    // The colour the tools draw with, the two colour boxes and the hidden bars follow the walk.
+    const Colour rgb = RGB(m().ClrRed, m().ClrGreen, m().ClrBlue);
+    EXPECT_EQ((std::vector<Colour>{m().ForeClr.value(), f().lForclr.BackColor, f().lColor.BackColor}), std::vector<Colour>(3, rgb));
+    EXPECT_EQ(std::pair(int(f().vRed.Value), int(f().vBlu.Value)), std::pair(int(m().ClrRed), int(m().ClrBlue)));
   }
-}
-
-TEST_F(ColourEngineTest, GlowDrivesEachFamilyFromItsOwnComponent) {
   // Each Colour Option: the component that drives it, and the components of its family.
   struct Case { int option; int Rgb::*driver; Rgb family; };
   for (const Case c : {Case{0, &Rgb::b, {1, 1, 1}}, Case{1, &Rgb::r, {1, 0, 0}}, Case{2, &Rgb::g, {0, 1, 0}},

@@ -1,4 +1,5 @@
-// The window's global keys, each through the window's key events.
+// The window's global keys, each through the window's key events, and the draw width on the fly:
+// arrow keys on the paint area, the width timers, their limits and Hold.
 #include <QImage>
 
 #include "core/Keyboard.h"
@@ -13,39 +14,45 @@ class KeyboardTest : public PencilTest {
   void key(int code, int times = 1) {
     for (int i = 0; i < times; ++i) windowKey(f(), code);
   }
+  // Holds an arrow on the paint area for n ticks of its timer, then lets it go.
+  void hold(int code, int n, bool letGo = true) {
+    canvasKeyDown(f(), code);
+    Timer& t = code == vbKeyUp || code == vbKeyRight ? f().tPenUp : f().tPenDwn;
+    headless.loop.advance(static_cast<std::int64_t>(t.Interval) * n);
+    if (letGo) canvasKeyUp(f(), code);
+  }
 };
+using WidthKeysTest = KeyboardTest;
 
-TEST_F(KeyboardTest, EnterAndShiftJumpTheWidthToItsLimits) {
+TEST_F(KeyboardTest, EnterAndShiftJumpTheWidthToItsLimitsAndATextPanelKeepsTheTypingKeys) {
   for (const auto& [code, width] : {std::pair{int(vbKeyReturn), 24}, std::pair{int(vbKeyShift), 4}}) {
     key(code);
-    EXPECT_EQ(m().DrawWidth, width);
-    EXPECT_EQ(f().vPencil.Value.get(), width);
+    EXPECT_EQ(std::pair(int(m().DrawWidth), f().vPencil.Value.get()), std::pair(width, width));
   }
-}
-
-TEST_F(KeyboardTest, WithATextPanelOpenOnlyTheKeysThatTypeNothingAct) {
+  // With a text panel open only the keys that type nothing act.
   f().fText.Visible = true;
+  key(vbKeyReturn);
   key(vbKeyShift);  // a capital letter in the text box, not a width
-  EXPECT_EQ(m().DrawWidth, 1);
+  EXPECT_EQ(m().DrawWidth, 24);
   key(vbKey1 + 3);
   EXPECT_NE(m().ColorOption, 3);
-  drawDot(1500, 1500);
-  key(vbKeyBack);
-  EXPECT_EQ(pixel(100, 100), kWhite);
   key(vbKeyCapital);
   EXPECT_FALSE(f().lnX.Visible);
   key(vbKeyNumpad0 + 3);  // the keypad still chooses
   EXPECT_EQ(m().ColorOption, 3);
-  key(vbKeyReturn);
   f().fText.Visible = false;
   f().fShad.Visible = true;  // the other text panel too
   key(vbKeyShift);
   EXPECT_EQ(m().DrawWidth, 24);
 }
 
-TEST_F(KeyboardTest, DeleteClearsForgetsTheFileAndBackspaceUndoesIt) {
+TEST_F(KeyboardTest, DeleteClearsForgetsTheFileAndBackspaceUndoesItAndKeysWithoutARowDoNothing) {
   m().CurrentFile = "C:\\pictures\\sky.bmp";
   drawDot(1500, 1500);
+  for (int code : {int(vbKeyZ), int(vbKeyF9), int('W'), int('O'), int('S'), 65}) key(code);
+  EXPECT_EQ(std::pair(int(m().PaintMode), int(m().DrawWidth)), std::pair(0, 1));
+  EXPECT_FALSE(program->quitRequested());
+  EXPECT_EQ(pixel(100, 100), kWhite);
   key(vbKeyDelete);
   EXPECT_EQ(pixel(100, 100), kBlack);
   EXPECT_TRUE(m().CurrentFile.isEmpty() && f().Caption.get().contains("Untitled.bmp"));
@@ -53,7 +60,9 @@ TEST_F(KeyboardTest, DeleteClearsForgetsTheFileAndBackspaceUndoesIt) {
   EXPECT_EQ(pixel(100, 100), kWhite);
 }
 
-TEST_F(KeyboardTest, SpacebarCopiesTheCanvasAndSetsAReturnPoint) {
+TEST_F(KeyboardTest, SpacebarCopiesTheCanvasAndSetsAReturnPointAndInsertFloatsTheCopy) {
+  key(vbKeyInsert);  // nothing on the clipboard yet: nothing floats
+  EXPECT_EQ(m().PaintMode, 0);
   drawDot(1500, 1500);
   key(vbKeySpace);
   const QImage copied = headless.clipboard.GetData();
@@ -63,14 +72,6 @@ TEST_F(KeyboardTest, SpacebarCopiesTheCanvasAndSetsAReturnPoint) {
   f().PicPaint.Line(0, 0, 6000, 6000, 0x0000FF);
   key(vbKeyBack);
   EXPECT_EQ(std::pair(pixel(100, 100), pixel(300, 300)), std::pair(kWhite, kBlack));
-}
-
-TEST_F(KeyboardTest, InsertFloatsTheClipboardsPictureWhenThereIsOne) {
-  key(vbKeyInsert);
-  EXPECT_EQ(m().PaintMode, 0);
-  QImage red(20, 10, QImage::Format_RGB32);
-  red.fill(qRgb(255, 0, 0));
-  headless.clipboard.SetData(red);
   key(vbKeyInsert);
   EXPECT_TRUE(m().PaintMode == 22 && f().pTemp.Visible);
 }
@@ -93,12 +94,12 @@ TEST_F(KeyboardTest, FunctionKeysStepTheWidthIntervalAndTheColourMode) {
 }
 
 TEST_F(KeyboardTest, HelpKeyListAndGridKeys) {
-  int help = 0, keys = 0;
-  f().mHelp.Click = [&] { ++help; };
-  f().mKeys.Click = [&] { ++keys; };
   key(vbKeyF2);
+  EXPECT_TRUE(f().fHelp.Visible && !f().txHelp.Text.get().isEmpty());
   key(vbKeyK);
-  EXPECT_EQ(std::pair(help, keys), std::pair(1, 1));
+  ASSERT_FALSE(headless.msgbox.shown().empty());
+  const auto& box = headless.msgbox.shown().back();
+  EXPECT_TRUE(box.title == "Keyboard Shortcuts" && box.prompt.startsWith("Copy : SpaceBar\r\nPaste:  Insert Key\r\n"));
   // Caps Lock shows the grid and C colours it.
   key(vbKeyCapital);
   EXPECT_TRUE(f().lnX.Visible);
@@ -108,17 +109,102 @@ TEST_F(KeyboardTest, HelpKeyListAndGridKeys) {
   EXPECT_FALSE(f().lnX.Visible);
 }
 
-TEST_F(KeyboardTest, KeysWithoutARowLeaveTheSessionAlone) {
-  drawDot(1500, 1500);
-  for (int code : {int(vbKeyZ), int(vbKeyF9), int('W'), int('O'), int('S'), 65}) key(code);
-  EXPECT_EQ(std::pair(int(m().PaintMode), int(m().DrawWidth)), std::pair(0, 1));
-  EXPECT_EQ(pixel(100, 100), kWhite);
-  EXPECT_FALSE(program->quitRequested());
-  // Any key up shows the width bar's value.
-  f().vPencil.Value = 7;
-  f().lPenVal.Caption = "";
-  windowKeyUp(f(), 'A');
-  EXPECT_EQ(f().lPenVal.Caption.get(), "Draw Width : 7");
+TEST_F(WidthKeysTest, UpAndRightWidenWhileHeldLeftAndDownNarrow) {
+  const int step = m().StepSize;
+  const struct { int code, ticks, width; } holds[] = {
+      {vbKeyUp, 3, 4}, {vbKeyRight, 4, 8}, {vbKeyLeft, 1, 7}, {vbKeyDown, 2, 5}};
+  for (const auto& h : holds) {
+    hold(h.code, h.ticks);
+    EXPECT_EQ(m().DrawWidth, h.width) << h.code;
+    EXPECT_EQ(f().vPencil.Value.get(), h.width);
+    EXPECT_EQ(f().PicPaint.DrawWidth.get(), h.width);
+    EXPECT_FALSE(f().tPenUp.Enabled || f().tPenDwn.Enabled);  // the key's release stops its timer
+  }
+  EXPECT_EQ(m().StepSize, step + 10 * (3 + 4 - 1 - 2));  // the spacing follows by ten a step
+}
+
+TEST_F(WidthKeysTest, TheWidthStopsWhenItMeetsItsLimit) {
+  hold(vbKeyUp, 40, false);
+  EXPECT_TRUE(m().DrawWidth == 24 && !f().tPenUp.Enabled);
+  EXPECT_EQ(f().lTell.Caption.get(), "Maximum");
+  canvasKeyUp(f(), vbKeyUp);
+  EXPECT_EQ(f().lTell.Caption.get(), "");
+  m().StepSize = 70;  // the spacing falls with the width, but not under 50
+  hold(vbKeyDown, 40, false);
+  EXPECT_EQ(std::pair(int(m().DrawWidth), int(m().StepSize)), std::pair(4, 50));
+  EXPECT_FALSE(f().tPenDwn.Enabled);
+  EXPECT_EQ(f().lTell.Caption.get(), "Minimum");
+  // A width already past the limit runs on to the bar's end: only equality with the limit stops it.
+  m().DrawWidth = 30;
+  hold(vbKeyUp, 200, false);
+  EXPECT_TRUE(m().DrawWidth == 160 && f().tPenUp.Enabled) << m().DrawWidth;
+  EXPECT_EQ(m().StepSize, 951 + 9);  // the spacing has its own ceiling
+}
+
+TEST_F(WidthKeysTest, HoldKeepsTheWidthMovingUntilTheLimitAndTheTimersNeverRunTogether) {
+  f().ckHold.Value = 1;
+  hold(vbKeyUp, 2);
+  EXPECT_TRUE(f().tPenUp.Enabled);
+  headless.loop.advance(f().tPenUp.Interval * 40);
+  EXPECT_TRUE(m().DrawWidth == 24 && !f().tPenUp.Enabled) << m().DrawWidth;
+  f().ckHold.Value = 0;
+  canvasKeyDown(f(), vbKeyDown);
+  canvasKeyDown(f(), vbKeyRight);
+  EXPECT_TRUE(f().tPenUp.Enabled && f().tPenDwn.Enabled);
+  headless.loop.advance(f().tPenUp.Interval);
+  EXPECT_NE(f().tPenUp.Enabled.get(), f().tPenDwn.Enabled.get());
+}
+
+TEST_F(WidthKeysTest, TheSprayFollowsTheWidthOnlyWithTheSecondBox) {
+  m().PaintMode = 3;
+  // The second box, the arrow held two ticks, the spread before and after.
+  const struct { int box, code, before, after; } cases[] = {{0, vbKeyUp, 5, 5}, {1, vbKeyUp, 5, 9}, {0, vbKeyDown, 20, 20}};
+  for (const auto& c : cases) {
+    f().ckVal2.Value = c.box;
+    f().AirSpread = c.before;
+    hold(c.code, 2);
+    EXPECT_EQ(f().AirSpread, c.after) << "box " << c.box << ", key " << c.code;
+  }
+}
+
+TEST_F(WidthKeysTest, AKeyOnThePaintAreaStartsTheTransientColoursOnlyWithTheirBox) {
+  for (int box : {0, 1}) {
+    f().ckDcolz.Value = box;
+    canvasKeyDown(f(), 'A');
+    EXPECT_EQ(f().tDclrz.Enabled.get(), box == 1) << "box " << box;
+    canvasKeyUp(f(), 'A');
+  }
+}
+
+TEST_F(WidthKeysTest, ModesWithoutAWidthIgnoreTheArrows) {
+  for (int mode : {14, 17, 18, 19, 21, 25, 26, 29}) {
+    m().PaintMode = mode;
+    canvasKeyDown(f(), vbKeyUp);
+    canvasKeyDown(f(), vbKeyDown);
+    EXPECT_FALSE(f().tPenUp.Enabled || f().tPenDwn.Enabled) << "mode " << mode;
+  }
+  // Simple Shapes widens only for its box run.
+  m().PaintMode = 2;
+  f().vVal3.Min = 3;
+  f().vVal3.Max = 0;
+  f().vVal3.Value = 0;
+  canvasKeyDown(f(), vbKeyUp);
+  EXPECT_FALSE(f().tPenUp.Enabled);
+  f().vVal3.Value = 3;
+  canvasKeyDown(f(), vbKeyUp);
+  EXPECT_TRUE(f().tPenUp.Enabled);
+}
+
+TEST_F(WidthKeysTest, TheTextBrushGrowsItsFontInstead) {
+  m().PaintMode = 20;
+  const struct { int code, from, to; const char* tell; } cases[] = {
+      {vbKeyUp, 108, 110, "Maximum"}, {vbKeyDown, 14, 12, "Minimum"}};
+  for (const auto& c : cases) {
+    f().vFont.Value = c.from;
+    hold(c.code, 5, false);
+    EXPECT_EQ(std::tuple(int(f().vFont.Value), f().lTell.Caption.get(), int(m().DrawWidth)), std::tuple(c.to, QString(c.tell), 1));
+    canvasKeyUp(f(), c.code);
+  }
 }
 
 }  // namespace

