@@ -42,7 +42,7 @@ TEST_F(DialogTest, SaveWritesTheBitmapTheNameAsksOrKeepsTheWindowUp) {
     EXPECT_EQ(m().CurrentFile, c.file ? at(c.file) : named);
     EXPECT_EQ(headless.msgbox.shown().empty() ? QString() : headless.msgbox.shown()[0].prompt, c.says);
     if (c.file) {
-      EXPECT_EQ(LoadPictureSize(at(c.file)), QSize(f().PicPaint.pixelWidth(), f().PicPaint.pixelHeight()));
+      EXPECT_EQ(QImage(at(c.file)).size(), QSize(f().PicPaint.pixelWidth(), f().PicPaint.pixelHeight()));
       EXPECT_TRUE(f().Caption.get().startsWith(QString(" Quillora Pro - %1   ").arg(c.file)));
     }
     if (dialog().Visible) dialog().CmdCancel.raiseClick();
@@ -58,7 +58,7 @@ TEST_F(DialogTest, DoubleClickingAFileInASaveWritesOverItWithoutAQuestion) {
   dialog().File1.raiseDblClick();
   EXPECT_FALSE(dialog().Visible);
   EXPECT_TRUE(headless.msgbox.shown().empty());
-  EXPECT_EQ(LoadPictureSize(at("old.bmp")), QSize(f().PicPaint.pixelWidth(), f().PicPaint.pixelHeight()));
+  EXPECT_EQ(QImage(at("old.bmp")).size(), QSize(f().PicPaint.pixelWidth(), f().PicPaint.pixelHeight()));
 }
 
 TEST_F(DialogTest, CancelForgetsTheNarrowWidthAndTheNextOpeningFindsTheRememberedFolder) {
@@ -108,18 +108,6 @@ TEST_F(DialogTest, TheOpenBranchLoadsTheFileChosenInTheList) {
   EXPECT_EQ(m().CurrentFile, at("good.bmp"));
   EXPECT_EQ(f().lDir.Caption.get(), QDir::cleanPath(folder.path()));
   EXPECT_EQ(f().Caption.get(), " Quillora Pro - good.bmp   12 x 9");
-}
-
-TEST_F(DialogTest, ACaptionOutsideTheModesOnlyClosesAndAWorkshopWithNothingToSaveWritesNothing) {
-  ShowFileDialog(s(), "Something else");
-  dialog().cmdOK.raiseClick();
-  EXPECT_FALSE(dialog().Visible);
-  // The TileSetter has tiled nothing yet: the save fails silently and the dialog stays.
-  ShowFileDialog(s(), "Save Tiled Image As...");
-  dialog().Dir1.Path = folder.path();
-  dialog().cmdOK.raiseClick();
-  EXPECT_TRUE(dialog().Visible);
-  EXPECT_TRUE(QDir(folder.path()).entryList(QDir::Files).isEmpty());
 }
 
 }  // namespace
