@@ -114,7 +114,6 @@ QByteArray bitmapBytes(int w, int h, int claimedW, int claimedH, int bitsPerPixe
 
 Corpus makeCorpus(const QString& folder) {
   Corpus c;
-  c.folder = folder;
   const QDir dir(folder);
   auto add = [&](const QString& name, const QByteArray& bytes) {
     writeFile(dir.filePath(name), bytes);

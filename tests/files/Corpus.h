@@ -10,8 +10,7 @@
 
 namespace qp::test {
 
-// A 24-bit bitmap of w x h whose header says claimedW x claimedH, with the pixels of `picture`
-// (or as many bytes as w x h need, from a pattern) behind it.
+// A bitmap whose header says claimedW x claimedH, with the pixel bytes of a w x h one behind it.
 QByteArray bitmapBytes(int w, int h, int claimedW, int claimedH, int bitsPerPixel = 24);
 // A small picture with a pattern that tells its pixels apart.
 QImage patternPicture(int w, int h);
@@ -33,7 +32,6 @@ struct ShortBitmap {
 QList<ShortBitmap> shortBitmaps();
 
 struct Corpus {
-  QString folder;
   QStringList files;  // every entry to try, by full path (the folder, pipe and device included)
   QString vanishing;  // listed, and deleted by the test before it is loaded
 };

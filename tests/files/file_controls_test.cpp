@@ -15,7 +15,7 @@ namespace {
 struct Lists : ::testing::Test {
   Lists() {
     const QDir d(dir.path());
-    for (const char* name : {"b.bmp", "c.jpg", "notes.txt"}) QFile(d.filePath(name)).open(QIODevice::WriteOnly);
+    for (const char* name : {"b.bmp", "c.jpg", "endsjpg", "notes.txt"}) QFile(d.filePath(name)).open(QIODevice::WriteOnly);
     d.mkdir("Zeta");
   }
   HeadlessRuntime h;
@@ -31,7 +31,8 @@ TEST_F(Lists, AChosenFileStaysChosenWhenListedAgainButNotInAnotherFolder) {
   files.Click = [&] { ++clicks; };
   files.ListIndex = static_cast<int>(files.items().indexOf("c.jpg"));
   EXPECT_EQ(clicks, 1);
-  files.Pattern = "*.jpg";
+  files.Pattern = "*jpg";  // the file window's JPEG filter, with no dot
+  EXPECT_EQ(files.items(), QStringList({"c.jpg", "endsjpg"}));
   EXPECT_EQ(files.FileName(), "c.jpg");
   EXPECT_EQ(clicks, 1);  // listing again is not a click
   files.Path = dir.filePath("Zeta");
