@@ -156,14 +156,9 @@ Corpus makeCorpus(const QString& folder) {
   add("zero-width.bmp", bitmapBytes(4, 4, 0, 4));
   add("odd-depth.bmp", bitmapBytes(4, 4, 4, 4, 13));
   add("deep.bmp", bitmapBytes(4, 4, 4, 4, 64));
-  {
-    QByteArray d = bitmapBytes(4, 4, 4, 4);
-    put32(d, 10, 0x7FFFFFF0);  // pixels said to start far past the end
-    add("far-offset.bmp", d);
-    QByteArray pal = bitmapBytes(4, 4, 4, 4, 8);
-    put32(pal, 46, 0x40000000);  // a palette of a billion colours
-    add("huge-palette.bmp", pal);
-  }
+  QByteArray pal = bitmapBytes(4, 4, 4, 4, 8);
+  put32(pal, 46, 0x40000000);  // a palette of a billion colours
+  add("huge-palette.bmp", pal);
   for (const auto& [name, w, h] : {std::tuple{"huge.jpg", 60000, 60000}, std::tuple{"zero.jpg", 0, 0},
                                    std::tuple{"tall.jpg", 1, 65535}}) {
     QByteArray d = jpg;
@@ -175,7 +170,6 @@ Corpus makeCorpus(const QString& folder) {
     add(name, d);
   }
   // Names and kinds that are not what they say.
-  add("text.bmp", QByteArray("this is not a picture\n").repeated(40));
   add("png-inside.bmp", encode(patternPicture(5, 5), "PNG"));
   add("bitmap-inside.jpg", bmp);  // a sound bitmap under a JPEG name still opens
   add(QString::fromUtf8("bild-\u00fcber-\u753b.bmp"), encode(patternPicture(6, 7), "BMP"));

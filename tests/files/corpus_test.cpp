@@ -6,7 +6,6 @@
 #include <unistd.h>
 
 #include "FilesFixture.h"
-#include "files/FileDialog.h"
 #include "platform/FileNames.h"
 
 // Fresh memory comes filled with a byte no picture here holds, so a pixel nobody wrote shows.
@@ -89,9 +88,6 @@ TEST_F(FileNamesTest, EveryPlainFileIsListedAndOpensByItsBytes) {
     pressInExplorer(name);
     EXPECT_EQ(QImage(f().imPre.Picture).size(), QSize(6, 4));
   }
-  ShowFileDialog(s(), FileMode::OpenImage);
-  dialog().Dir1.Path = folder.path();
-  EXPECT_EQ(dialog().File1.items(), expected());
 }
 
 }  // namespace

@@ -39,7 +39,7 @@ TEST_F(Lists, AChosenFileStaysChosenWhenListedAgainButNotInAnotherFolder) {
   EXPECT_EQ(files.FileName(), "");
 }
 
-TEST_F(Lists, FoldersOpenWithOneChoiceAndTellOnlyRealMoves) {
+TEST_F(Lists, FoldersOpenWithOneChoiceTellOnlyRealMovesAndRefuseWhatIsNotThere) {
   DirListBox folders(&form, nullptr, "Dir1");
   int changes = 0;
   folders.Change = [&] { ++changes; };
@@ -57,17 +57,14 @@ TEST_F(Lists, FoldersOpenWithOneChoiceAndTellOnlyRealMoves) {
   EXPECT_EQ(folders.Path.get(), QDir::cleanPath(dir.path()));
   folders.ListIndex = 0;
   EXPECT_EQ(folders.Path.get(), "/");
-}
-
-TEST_F(Lists, APlaceThatIsNotThereIsRefusedAndNothingMoves) {
-  DirListBox folders(&form, nullptr, "Dir1");
-  FileListBox files(&form, nullptr, "File1");
-  DriveListBox drives(&form, nullptr, "Drive1");
-  folders.Path = dir.path();
+  // A place that is not there is refused and nothing moves.
   EXPECT_THROW(folders.Path = dir.filePath("gone"), RuntimeError);
+  EXPECT_EQ(folders.Path.get(), "/");
+  EXPECT_EQ(changes, 4);
+  FileListBox files(&form, nullptr, "File1");
   EXPECT_THROW(files.Path = dir.filePath("notes.txt"), RuntimeError);
+  DriveListBox drives(&form, nullptr, "Drive1");
   EXPECT_THROW(drives.Drive = dir.filePath("gone"), RuntimeError);
-  EXPECT_EQ(folders.Path.get(), QDir::cleanPath(dir.path()));
 }
 
 }  // namespace
