@@ -155,7 +155,6 @@ Corpus makeCorpus(const QString& folder) {
   add("most-negative.bmp", bitmapBytes(4, 4, 4, std::numeric_limits<qint32>::min()));
   add("zero-width.bmp", bitmapBytes(4, 4, 0, 4));
   add("odd-depth.bmp", bitmapBytes(4, 4, 4, 4, 13));
-  add("deep.bmp", bitmapBytes(4, 4, 4, 4, 64));
   QByteArray pal = bitmapBytes(4, 4, 4, 4, 8);
   put32(pal, 46, 0x40000000);  // a palette of a billion colours
   add("huge-palette.bmp", pal);

@@ -1,5 +1,4 @@
-// `quillora PICTURE`: the picture named at start-up opens as a drop on the canvas opens it; what
-// cannot open is told, in a message box and on stderr, and the blank canvas stays.
+// `quillora PICTURE` opens as a drop does; what cannot open is told, and the blank canvas stays.
 #include "FilesFixture.h"
 #include "app/OpenFiles.h"
 

@@ -81,7 +81,6 @@ TEST_F(FileNamesTest, EveryPlainFileIsListedAndOpensByItsBytes) {
   f().Dir1.Path = folder.path();
   f().File1.Pattern = "*.bmp";
   EXPECT_EQ(f().File1.items(), expected());
-  EXPECT_EQ(readableName(f().File1.items().front()), QString::fromLatin1("caf\xe9.bmp"));
   for (const QString& name : expected()) {
     SCOPED_TRACE(readableName(name).toStdString());
     f().imPre.Picture = QImage();

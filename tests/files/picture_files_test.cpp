@@ -2,24 +2,13 @@
 #include <QDir>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
-#include <utility>
 
 #include "Corpus.h"
 #include "files/PictureFiles.h"
-#include "files/SavePath.h"
 #include "platform/Errors.h"
 
 namespace qp::test {
 namespace {
-
-int errorOf(const QString& path) {
-  try {
-    LoadPicture(path);
-  } catch (const RuntimeError& e) {
-    return e.code();
-  }
-  return 0;
-}
 
 TEST(PictureFiles, BitmapsRoundTripPixelForPixelAndJpegsOpen) {
   QTemporaryDir dir;
@@ -33,18 +22,13 @@ TEST(PictureFiles, BitmapsRoundTripPixelForPixelAndJpegsOpen) {
   EXPECT_TRUE(LoadPicture("").isNull());  // no name, no picture, no error
 }
 
-TEST(PictureFiles, FailuresRaiseTheLoadErrorsTheHandlersTrap) {
+// Only bitmaps, JPEGs and PNGs are ever decoded, whatever the name says; a header that claims too
+// many pixels is refused before any decoding.
+TEST(PictureFiles, OtherFormatsAndHugeHeadersAreRefused) {
   QTemporaryDir dir;
-  QDir(dir.path()).mkdir("folder.bmp");
-  // Only bitmaps, JPEGs and PNGs are ever decoded, whatever the name says.
   writeFile(dir.filePath("ppm.bmp"), encode(patternPicture(4, 4), "PPM"));
-  // Refused from its header, before any decoding.
   writeFile(dir.filePath("huge.bmp"), bitmapBytes(4, 4, 60000, 60000));
-  const std::pair<const char*, int> cases[] = {{"missing.bmp", RuntimeError::FileNotFound},
-                                               {"folder.bmp", RuntimeError::InvalidPicture},
-                                               {"ppm.bmp", RuntimeError::InvalidPicture},
-                                               {"huge.bmp", RuntimeError::InvalidPicture}};
-  for (const auto& [name, code] : cases) EXPECT_EQ(errorOf(dir.filePath(name)), code) << name;
+  for (const char* name : {"ppm.bmp", "huge.bmp"}) EXPECT_FALSE(trap([&] { LoadPicture(dir.filePath(name)); })) << name;
 }
 
 // Under the sanitizer fresh memory is filled with a byte no picture here holds, so a pixel that
@@ -76,12 +60,6 @@ TEST(PictureFiles, ASaveReplacesTheFileWholeAndAFailedOneLeavesIt) {
   SavePicture(patternPicture(3, 3), target);
   EXPECT_EQ(LoadPicture(target), patternPicture(3, 3));
   EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files | QDir::Hidden), QStringList({"keep.bmp"}));  // no temporary left
-}
-
-// The usual names go through the file window in its own tests; these are the edges.
-TEST(SavePathRules, TheRootAndATrailingSeparatorGetNoSecondOne) {
-  EXPECT_EQ(ComposeSavePath("/", "a").path, "/a.bmp");
-  EXPECT_EQ(ComposeSavePath("/pics/", "a").path, "/pics/a.bmp");
 }
 
 }  // namespace

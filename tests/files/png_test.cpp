@@ -7,6 +7,7 @@
 #include "files/ExportPng.h"
 #include "files/FileDialog.h"
 #include "files/PictureFiles.h"
+#include "files/SavePath.h"
 #include "surface/Raster.h"
 #include "ui/Windows.h"
 
@@ -100,6 +101,7 @@ TEST_F(PngTest, AnExportThatCannotBeWrittenIsToldThenReloadsAsTheCanvasElsewhere
   EXPECT_EQ(m().CurrentFile, QString("drawing.bmp"));
   EXPECT_EQ(ComposePngPath("/a", "b.PNG"), QString("/a/b.PNG"));
   EXPECT_EQ(ComposePngPath("/", ""), QString("/Untitled.png"));
+  EXPECT_EQ(ComposeSavePath("/pics/", "a").path, "/pics/a.bmp");  // no second separator
 }
 
 }  // namespace

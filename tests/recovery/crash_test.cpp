@@ -16,10 +16,7 @@ class ProgramRun {
  public:
   ProgramRun(const QTemporaryDir& dir, const QString& script, int delayMs) {
     const QString file = QDir(dir.path()).filePath("run.qsc");
-    QFile f(file);
-    f.open(QIODevice::WriteOnly | QIODevice::Truncate);
-    f.write(script.toUtf8());
-    f.close();
+    if (QFile f(file); f.open(QIODevice::WriteOnly | QIODevice::Truncate)) f.write(script.toUtf8());
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     env.insert("XDG_STATE_HOME", dir.path());
     env.insert("QT_QPA_PLATFORM", "offscreen");
@@ -56,16 +53,13 @@ class ProgramRun {
   QString out_;
 };
 
-const char* const kStroke =
-    "menu mPencil\npress PicPaint 10 20\nmove PicPaint 60 40\nmove PicPaint 90 80\nrelease PicPaint 90 80\n"
-    "save PicPaint drawn.bmp\n";
-
 // Killed after its copy was written, the next start offers the picture; Yes is the first button,
 // which the driven window answers, and the picture comes back whole.
 TEST(Crash, AKilledWindowOffersItsLastCopyAtTheNextStart) {
   QTemporaryDir dir;
   {
-    ProgramRun first(dir, QString(kStroke) + "wait 600000\n", 20);
+    ProgramRun first(dir, "menu mPencil\npress PicPaint 10 20\nmove PicPaint 60 40\nrelease PicPaint 60 40\n"
+                          "save PicPaint drawn.bmp\nwait 600000\n", 20);
     ASSERT_TRUE(first.waitFor("recovery written")) << first.out().toStdString();
     first.kill();
   }
