@@ -3,6 +3,7 @@
 #include <QBuffer>
 #include <QDir>
 #include <QFile>
+#include <QPainter>
 #include <QtEndian>
 #include <limits>
 #include <random>
@@ -15,11 +16,6 @@ namespace {
 
 void put16(QByteArray& b, int at, int v) { qToLittleEndian<qint16>(static_cast<qint16>(v), b.data() + at); }
 void put32(QByteArray& b, int at, qint32 v) { qToLittleEndian<qint32>(v, b.data() + at); }
-
-void write(const QString& path, const QByteArray& bytes) {
-  QFile f(path);
-  if (f.open(QIODevice::WriteOnly)) f.write(bytes);
-}
 
 // The offset of a JPEG frame header (SOF0 or SOF2), whose height and width follow at +5 and +7.
 int frameHeader(const QByteArray& jpg) {
@@ -57,14 +53,18 @@ QByteArray bitmapFile(int w, int h, int bits, int compression, const QByteArray&
 // The expected picture: black, with white rectangles where the data gives pixels.
 QImage blackWith(int w, int h, std::initializer_list<QRect> white) {
   QImage img(w, h, QImage::Format_RGB32);
-  img.fill(qRgb(0, 0, 0));
-  for (const QRect& r : white)
-    for (int y = r.top(); y <= r.bottom(); ++y)
-      for (int x = r.left(); x <= r.right(); ++x) img.setPixel(x, y, qRgb(255, 255, 255));
+  img.fill(Qt::black);
+  QPainter p(&img);
+  for (const QRect& r : white) p.fillRect(r, Qt::white);
   return img;
 }
 
 }  // namespace
+
+void writeFile(const QString& path, const QByteArray& bytes) {
+  QFile f(path);
+  if (f.open(QIODevice::WriteOnly)) f.write(bytes);
+}
 
 QList<ShortBitmap> shortBitmaps() {
   QList<ShortBitmap> list;
@@ -114,10 +114,9 @@ QByteArray bitmapBytes(int w, int h, int claimedW, int claimedH, int bitsPerPixe
 
 Corpus makeCorpus(const QString& folder) {
   Corpus c;
-  c.folder = folder;
   const QDir dir(folder);
   auto add = [&](const QString& name, const QByteArray& bytes) {
-    write(dir.filePath(name), bytes);
+    writeFile(dir.filePath(name), bytes);
     c.files << dir.filePath(name);
   };
   const QByteArray bmp = encode(patternPicture(23, 17), "BMP");
@@ -125,12 +124,10 @@ Corpus makeCorpus(const QString& folder) {
   // A second JPEG of another size, so that truncations meet other parts of the stream.
   const QByteArray progressive = encode(patternPicture(9, 64), "JPEG", 20);
 
-  c.good = dir.filePath("good.bmp");
-  write(c.good, bmp);
-  c.files << c.good;
+  add("good.bmp", bmp);
   add("good.jpg", jpg);
 
-  // Truncations: every length through the headers, then a step through the pixels.
+  // Truncations: every length through the headers (from none at all), then a step through the pixels.
   for (const auto& [stem, data, ext] : {std::tuple{"bmp", bmp, ".bmp"}, std::tuple{"jpg", jpg, ".jpg"},
                                         std::tuple{"small", progressive, ".jpg"}}) {
     const int n = static_cast<int>(data.size());
@@ -158,15 +155,9 @@ Corpus makeCorpus(const QString& folder) {
   add("most-negative.bmp", bitmapBytes(4, 4, 4, std::numeric_limits<qint32>::min()));
   add("zero-width.bmp", bitmapBytes(4, 4, 0, 4));
   add("odd-depth.bmp", bitmapBytes(4, 4, 4, 4, 13));
-  add("deep.bmp", bitmapBytes(4, 4, 4, 4, 64));
-  {
-    QByteArray d = bitmapBytes(4, 4, 4, 4);
-    put32(d, 10, 0x7FFFFFF0);  // pixels said to start far past the end
-    add("far-offset.bmp", d);
-    QByteArray pal = bitmapBytes(4, 4, 4, 4, 8);
-    put32(pal, 46, 0x40000000);  // a palette of a billion colours
-    add("huge-palette.bmp", pal);
-  }
+  QByteArray pal = bitmapBytes(4, 4, 4, 4, 8);
+  put32(pal, 46, 0x40000000);  // a palette of a billion colours
+  add("huge-palette.bmp", pal);
   for (const auto& [name, w, h] : {std::tuple{"huge.jpg", 60000, 60000}, std::tuple{"zero.jpg", 0, 0},
                                    std::tuple{"tall.jpg", 1, 65535}}) {
     QByteArray d = jpg;
@@ -178,9 +169,6 @@ Corpus makeCorpus(const QString& folder) {
     add(name, d);
   }
   // Names and kinds that are not what they say.
-  add("empty.bmp", QByteArray());
-  add("empty.jpg", QByteArray());
-  add("text.bmp", QByteArray("this is not a picture\n").repeated(40));
   add("png-inside.bmp", encode(patternPicture(5, 5), "PNG"));
   add("bitmap-inside.jpg", bmp);  // a sound bitmap under a JPEG name still opens
   add(QString::fromUtf8("bild-\u00fcber-\u753b.bmp"), encode(patternPicture(6, 7), "BMP"));
@@ -188,9 +176,10 @@ Corpus makeCorpus(const QString& folder) {
   c.files << dir.filePath("folder.bmp");
   const QString pipe = dir.filePath("pipe.bmp");
   if (::mkfifo(QFile::encodeName(pipe).constData(), 0600) == 0) c.files << pipe;
+  if (QFile::link("/dev/zero", dir.filePath("zero.bmp"))) c.files << dir.filePath("zero.bmp");
   for (const ShortBitmap& b : shortBitmaps()) add(b.name, b.bytes);
   c.vanishing = dir.filePath("vanishing.bmp");
-  write(c.vanishing, bmp);
+  writeFile(c.vanishing, bmp);
   c.files << c.vanishing;
   return c;
 }

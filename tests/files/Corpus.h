@@ -1,7 +1,8 @@
 #pragma once
 // A corpus of broken and hostile picture files, made fresh for each run in a folder of its own:
 // truncations of a good bitmap and JPEG at many lengths, flipped bytes, headers that claim huge or
-// negative sizes, empty files, a folder and a pipe named like pictures, and a non-ASCII name.
+// negative sizes, empty files, a folder, a pipe and a device named like pictures, and a non-ASCII
+// name.
 #include <QByteArray>
 #include <QImage>
 #include <QString>
@@ -9,12 +10,14 @@
 
 namespace qp::test {
 
-// A 24-bit bitmap of w x h whose header says claimedW x claimedH, with the pixels of `picture`
-// (or as many bytes as w x h need, from a pattern) behind it.
+// A bitmap whose header says claimedW x claimedH, with the pixel bytes of a w x h one behind it.
 QByteArray bitmapBytes(int w, int h, int claimedW, int claimedH, int bitsPerPixel = 24);
 // A small picture with a pattern that tells its pixels apart.
 QImage patternPicture(int w, int h);
 QByteArray encode(const QImage& picture, const char* format, int quality = -1);
+
+// Writes bytes to a file, replacing what was there.
+void writeFile(const QString& path, const QByteArray& bytes);
 
 // A bitmap whose data holds less than its header promises, with the picture a load must give:
 // what the data holds, and black where it holds nothing.
@@ -29,9 +32,7 @@ struct ShortBitmap {
 QList<ShortBitmap> shortBitmaps();
 
 struct Corpus {
-  QString folder;
-  QStringList files;  // every entry to try, by full path (the folder and pipe included)
-  QString good;       // a sound bitmap, for the tests that need one to succeed
+  QStringList files;  // every entry to try, by full path (the folder, pipe and device included)
   QString vanishing;  // listed, and deleted by the test before it is loaded
 };
 // Writes the corpus into folder, which must exist and be empty.

@@ -18,12 +18,16 @@ class FilesTest : public ProgramTest {
     picture.save(at(name), format);
     return at(name);
   }
-  // The Explorer panel, pointed at the test's folder, with `name` pressed in its file list.
-  void pressInExplorer(const QString& name) {
-    f().Dir1.Path = folder.path();
-    const int row = static_cast<int>(f().File1.items().indexOf(name));
+  // `name` chosen in a file list whose folder list is pointed at the test's folder.
+  void chooseIn(DirListBox& folders, FileListBox& files, const QString& name) {
+    folders.Path = folder.path();
+    const int row = static_cast<int>(files.items().indexOf(name));
     ASSERT_GE(row, 0) << name.toStdString();
-    f().File1.ListIndex = row;
+    files.ListIndex = row;
+  }
+  // The Explorer panel with `name` pressed in its file list.
+  void pressInExplorer(const QString& name) {
+    chooseIn(f().Dir1, f().File1, name);
     f().File1.raiseMouseDown(vbLeftButton, 0, 0, 0);
   }
   // File > Open, then the file pressed and taken.
@@ -32,16 +36,8 @@ class FilesTest : public ProgramTest {
     pressInExplorer(name);
     f().cPic.raiseClick();
   }
-  // The dialog's lists pointed at the test's folder, and `name` clicked in its file list.
-  void chooseInDialog(const QString& name) {
-    dialog().Dir1.Path = folder.path();
-    const int row = static_cast<int>(dialog().File1.items().indexOf(name));
-    ASSERT_GE(row, 0) << name.toStdString();
-    dialog().File1.ListIndex = row;
-  }
+  void chooseInDialog(const QString& name) { chooseIn(dialog().Dir1, dialog().File1, name); }
   QImage canvas() { return f().PicPaint.Image; }
-  // The size of the picture in a file, or an empty size when it does not open.
-  static QSize LoadPictureSize(const QString& path) { return QImage(path).size(); }
 
   QTemporaryDir folder;
 };

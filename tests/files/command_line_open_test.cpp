@@ -1,7 +1,4 @@
-// `quillora PICTURE`: the picture named at start-up opens as a drop on the canvas opens it; what
-// cannot open is told, in a message box and on stderr, and the blank canvas stays.
-#include <QFile>
-
+// `quillora PICTURE` opens as a drop does; what cannot open is told, and the blank canvas stays.
 #include "FilesFixture.h"
 #include "app/OpenFiles.h"
 
@@ -17,29 +14,9 @@ class CommandLineOpenTest : public FilesTest {
   QString said;
 };
 
-TEST_F(CommandLineOpenTest, OpensThePictureAsADropOnTheCanvasDoes) {
+TEST_F(CommandLineOpenTest, WhatCannotOpenIsToldAndWhatCanOpensAsADropDoes) {
   const QString picture = writePicture("pic.bmp", patternPicture(40, 30));
-  HeadlessRuntime other;
-  Program dropped(other.rt());
-  dropped.start();
-  dropped.f.PicPaint.OLEDragDrop({picture}, vbLeftButton, 0, 0, 0);
-  const QString before = QDir::currentPath();
-  QDir::setCurrent(folder.path());  // the bare name, given in the picture's folder
-  EXPECT_EQ(open({"pic.bmp"}), "");
-  QDir::setCurrent(before);
-  EXPECT_EQ(m().CurrentFile, picture);
-  EXPECT_EQ(f().Caption.get(), " Quillora Pro - pic.bmp   40 x 30");
-  EXPECT_EQ(canvas(), QImage(dropped.f.PicPaint.Image));
-  EXPECT_EQ(QImage(f().PicUndo.Image), QImage(dropped.f.PicUndo.Image));  // undo gives the blank canvas
-  EXPECT_TRUE(headless.msgbox.shown().empty());
-  EXPECT_EQ(said, "");
-}
-
-TEST_F(CommandLineOpenTest, WhatCannotOpenIsToldAndTheBlankCanvasStays) {
-  const QString picture = writePicture("pic.bmp", patternPicture(4, 4));
-  QFile notes(at("notes.bmp"));
-  ASSERT_TRUE(notes.open(QIODevice::WriteOnly) && notes.write("not a picture") > 0);
-  notes.close();
+  writeFile(at("notes.bmp"), "not a picture");
   const struct {
     QStringList files;
     QString says;  // empty: nothing to say
@@ -69,6 +46,23 @@ TEST_F(CommandLineOpenTest, WhatCannotOpenIsToldAndTheBlankCanvasStays) {
     EXPECT_EQ(canvas(), blank);
     EXPECT_EQ(QImage(f().PicUndo.Image), undo);
   }
+
+  HeadlessRuntime other;
+  Program dropped(other.rt());
+  dropped.start();
+  dropped.f.PicPaint.OLEDragDrop({picture}, vbLeftButton, 0, 0, 0);
+  const QString before = QDir::currentPath();
+  QDir::setCurrent(folder.path());  // the bare name, given in the picture's folder
+  headless.msgbox.clear();
+  said.clear();
+  EXPECT_EQ(open({"pic.bmp"}), "");
+  QDir::setCurrent(before);
+  EXPECT_EQ(m().CurrentFile, picture);
+  EXPECT_EQ(f().Caption.get(), " Quillora Pro - pic.bmp   40 x 30");
+  EXPECT_EQ(canvas(), QImage(dropped.f.PicPaint.Image));
+  EXPECT_EQ(QImage(f().PicUndo.Image), QImage(dropped.f.PicUndo.Image));  // undo gives the blank canvas
+  EXPECT_TRUE(headless.msgbox.shown().empty());
+  EXPECT_EQ(said, "");
 }
 
 }  // namespace

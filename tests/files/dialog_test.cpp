@@ -1,5 +1,4 @@
 // The file window: saving under the names users type, its folder memory, and its Open branch.
-#include <QFile>
 #include <QFileInfo>
 
 #include "FilesFixture.h"
@@ -19,27 +18,36 @@ class DialogTest : public FilesTest {
   }
 };
 
-TEST_F(DialogTest, SaveNarrowsTheWindowAndWritesTheBitmapTheNameAsks) {
-  saveAs("");
-  EXPECT_TRUE(QFile::exists(at("Untitled.bmp")));
-  EXPECT_EQ(dialog().TxtFile.Text.get(), "Untitled");
-  EXPECT_TRUE(f().Caption.get().startsWith(" Quillora Pro - Untitled.bmp   "));
-  saveAs("Sky.gif");
-  EXPECT_TRUE(QFile::exists(at("Sky.gif.bmp")));
-  saveAs("LOUD.BMP");
-  EXPECT_TRUE(QFile::exists(at("LOUD.BMP")));
-  EXPECT_EQ(m().CurrentFile, at("LOUD.BMP"));
-  EXPECT_EQ(LoadPictureSize(at("LOUD.BMP")), QSize(f().PicPaint.pixelWidth(), f().PicPaint.pixelHeight()));
-}
-
-TEST_F(DialogTest, AJpgNameIsRefusedWithItsMessageAndTheWindowStays) {
-  saveAs("HOLIDAY.JPG");
-  ASSERT_EQ(headless.msgbox.shown().size(), 1u);
-  EXPECT_EQ(headless.msgbox.shown()[0].prompt,
-            "Sorry... Quillora only saves .bmp files\r\nPlease remove the .jpg file extension to save this file");
-  EXPECT_TRUE(dialog().Visible);
-  EXPECT_EQ(m().CurrentFile, "");
-  EXPECT_TRUE(QDir(folder.path()).entryList(QDir::Files).isEmpty());
+// A refused name or a place that cannot be written keeps the window up and the canvas's name.
+TEST_F(DialogTest, SaveWritesTheBitmapTheNameAsksOrKeepsTheWindowUp) {
+  QDir(folder.path()).mkdir("x.bmp");  // a folder stands where the file would go
+  const struct {
+    const char* typed;
+    const char* file;  // null: nothing is written
+    const char* says;
+  } cases[] = {
+      {"", "Untitled.bmp", ""},
+      {"Sky.jpeg", "Sky.jpeg.bmp", ""},
+      {"LOUD.BMP", "LOUD.BMP", ""},
+      {"HOLIDAY.JPG", nullptr,
+       "Sorry... Quillora only saves .bmp files\r\nPlease remove the .jpg file extension to save this file"},
+      {"x", nullptr, ""},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.typed);
+    const QString named = m().CurrentFile;
+    headless.msgbox.clear();
+    saveAs(c.typed);
+    EXPECT_EQ(dialog().Visible.get(), c.file == nullptr);
+    EXPECT_EQ(m().CurrentFile, c.file ? at(c.file) : named);
+    EXPECT_EQ(headless.msgbox.shown().empty() ? QString() : headless.msgbox.shown()[0].prompt, c.says);
+    if (c.file) {
+      EXPECT_EQ(QImage(at(c.file)).size(), QSize(f().PicPaint.pixelWidth(), f().PicPaint.pixelHeight()));
+      EXPECT_TRUE(f().Caption.get().startsWith(QString(" Quillora Pro - %1   ").arg(c.file)));
+    }
+    if (dialog().Visible) dialog().CmdCancel.raiseClick();
+  }
+  EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList({"LOUD.BMP", "Sky.jpeg.bmp", "Untitled.bmp"}));
 }
 
 TEST_F(DialogTest, DoubleClickingAFileInASaveWritesOverItWithoutAQuestion) {
@@ -50,60 +58,43 @@ TEST_F(DialogTest, DoubleClickingAFileInASaveWritesOverItWithoutAQuestion) {
   dialog().File1.raiseDblClick();
   EXPECT_FALSE(dialog().Visible);
   EXPECT_TRUE(headless.msgbox.shown().empty());
-  EXPECT_EQ(LoadPictureSize(at("old.bmp")), QSize(f().PicPaint.pixelWidth(), f().PicPaint.pixelHeight()));
+  EXPECT_EQ(QImage(at("old.bmp")).size(), QSize(f().PicPaint.pixelWidth(), f().PicPaint.pixelHeight()));
 }
 
-// What a failed write leaves of the old file is the picture files' concern; here, the window and
-// the canvas's name.
-TEST_F(DialogTest, ASaveThatCannotBeWrittenKeepsTheWindowAndTheName) {
-  saveAs("keep");
-  const QString saved = m().CurrentFile;
-  QDir(folder.path()).mkdir("x.bmp");  // a folder stands where the file would go
-  saveAs("x");
-  EXPECT_TRUE(dialog().Visible);
-  EXPECT_EQ(m().CurrentFile, saved);
-  EXPECT_TRUE(QFileInfo(at("x.bmp")).isDir());
-}
-
-TEST_F(DialogTest, CancelForgetsTheNarrowWidthAndTheNextOpeningFindsTheRememberedFolder) {
-  QDir(folder.path()).mkdir("pics");
-  saveAs("first");  // the lists moved into the folder; the main window remembers it
-  EXPECT_EQ(f().lDir.Caption.get(), QDir::cleanPath(folder.path()));
+// The main window remembers the folder of a canvas save; the other modes start where the program runs.
+TEST_F(DialogTest, OnlyTheCanvasModesReturnToTheRememberedFolder) {
+  saveAs("first");
   choose(f().mnuSave);
-  EXPECT_EQ(dialog().Width.get(), 5760);  // hidden, not unloaded: the narrow width stays
-  dialog().CmdCancel.raiseClick();
-  EXPECT_EQ(dialog().Width.get(), 7590);
+  dialog().CmdCancel.raiseClick();  // unloads the window, where a save only hid it
   ShowFileDialog(s(), "Save Selection As...");
-  EXPECT_EQ(dialog().Width.get(), 7590);  // a new window of full width
-  EXPECT_EQ(dialog().Dir1.Path.get(), QDir::cleanPath(QDir::currentPath()));  // other modes don't remember
+  EXPECT_EQ(dialog().Dir1.Path.get(), QDir::cleanPath(QDir::currentPath()));
   dialog().CmdCancel.raiseClick();
   choose(f().mnuSave);
-  EXPECT_EQ(dialog().Dir1.Path.get(), QDir::cleanPath(folder.path()));
   EXPECT_EQ(dialog().File1.Path.get(), QDir::cleanPath(folder.path()));
 }
 
-TEST_F(DialogTest, ClickingAFileFillsTheNameAndPreviewsItUnlessItCannotBeRead) {
+// A click fills the name and previews the file; OK loads only what the list has chosen, and a
+// file that cannot be read keeps the window up with the canvas as it was.
+TEST_F(DialogTest, TheOpenBranchLoadsTheFileChosenInTheList) {
   writePicture("good.bmp", patternPicture(12, 9));
-  QFile broken(at("broken.bmp"));
-  ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
-  broken.write("BM not really");
-  broken.close();
-  ShowFileDialog(s(), "Open Image...");
+  writeFile(at("broken.bmp"), "BM not really");
+  const QImage blank = canvas();
+  ShowFileDialog(s(), FileMode::OpenImage);
+  dialog().Dir1.Path = folder.path();
+  dialog().TxtFile.Text = "good.bmp";
+  dialog().cmdOK.raiseClick();
+  EXPECT_TRUE(dialog().Visible);  // a typed name alone neither loads nor closes
+  EXPECT_EQ(canvas(), blank);
   chooseInDialog("good.bmp");
   EXPECT_EQ(dialog().imPreview.Picture.size(), QSize(12, 9));
   chooseInDialog("broken.bmp");
   EXPECT_EQ(dialog().TxtFile.Text.get(), "broken.bmp");
   EXPECT_EQ(dialog().imPreview.Picture.size(), QSize(12, 9));
-}
-
-TEST_F(DialogTest, TheOpenBranchLoadsTheChosenFileAndATypedNameAloneLoadsNothing) {
-  writePicture("good.bmp", patternPicture(12, 9));
-  ShowFileDialog(s(), "Open Image...");
-  dialog().Dir1.Path = folder.path();
-  dialog().TxtFile.Text = "good.bmp";
+  m().CurrentFile = "before";
   dialog().cmdOK.raiseClick();
-  EXPECT_TRUE(dialog().Visible);  // nothing chosen in the list: neither loads nor closes
-  EXPECT_EQ(f().PicPaint.pixelWidth() == 12, false);
+  EXPECT_TRUE(dialog().Visible);
+  EXPECT_EQ(canvas(), blank);
+  EXPECT_EQ(m().CurrentFile, "");  // cleared before the load that failed
 
   chooseInDialog("good.bmp");
   dialog().cmdOK.raiseClick();
@@ -112,18 +103,6 @@ TEST_F(DialogTest, TheOpenBranchLoadsTheChosenFileAndATypedNameAloneLoadsNothing
   EXPECT_EQ(m().CurrentFile, at("good.bmp"));
   EXPECT_EQ(f().lDir.Caption.get(), QDir::cleanPath(folder.path()));
   EXPECT_EQ(f().Caption.get(), " Quillora Pro - good.bmp   12 x 9");
-}
-
-TEST_F(DialogTest, ACaptionOutsideTheModesOnlyClosesAndAWorkshopWithNothingToSaveWritesNothing) {
-  ShowFileDialog(s(), "Something else");
-  dialog().cmdOK.raiseClick();
-  EXPECT_FALSE(dialog().Visible);
-  // The TileSetter has tiled nothing yet: the save fails silently and the dialog stays.
-  ShowFileDialog(s(), "Save Tiled Image As...");
-  dialog().Dir1.Path = folder.path();
-  dialog().cmdOK.raiseClick();
-  EXPECT_TRUE(dialog().Visible);
-  EXPECT_TRUE(QDir(folder.path()).entryList(QDir::Files).isEmpty());
 }
 
 }  // namespace
