@@ -1,55 +1,59 @@
 // Malformed and absurd scripts and command lines: refused with exit status 2 and the line, never
 // overflowing, running for ever or growing without bound; values a control refuses are errors.
-#include <gtest/gtest.h>
-
+#include <QBuffer>
+#include <QFile>
+#include <QTemporaryDir>
 #include <set>
+#include <sys/stat.h>
 
+#include "ScriptFixture.h"
 #include "platform/Controls.h"
 #include "script/CommandLine.h"
 #include "script/Limits.h"
-#include "script/Runner.h"
-#include "script/Sessions.h"
-#include "app/Program.h"
 
 namespace qp::script {
 namespace {
 
-class ScriptLimits : public ::testing::Test {
- protected:
-  int run(const QString& text) {
-    std::vector<Command> commands;
-    ParseError perr;
-    if (!parseScript(text, commands, perr)) {
-      errors += QString("line %1: %2\n").arg(perr.line).arg(perr.message);
-      return 2;
-    }
-    const int status = runner.runAll(commands);
-    err.flush();
-    return status;
-  }
-  frmCanvas& f() { return session.program().f; }
+using ScriptLimits = ScriptTest;
 
-  QString printed, errors;
-  QTextStream out{&printed}, err{&errors};
-  HeadlessSession session{1, QSize(1280, 1024), out};
-  Runner runner{session.program(), session.rt(), session, out, err};
-};
-
-TEST_F(ScriptLimits, RefusedScriptsNameTheirLine) {
-  struct Case { QString script; const char* line; };
+TEST_F(ScriptLimits, RefusedLinesEndTheRunAndNameTheirLine) {
+  QTemporaryDir dir;
+  // A PNG cut short, and a pipe that would never end.
+  const QString cut = dir.filePath("cut.png"), pipe = dir.filePath("pipe.bmp");
+  QByteArray png;
+  QBuffer buffer(&png);
+  buffer.open(QIODevice::WriteOnly);
+  QImage(2, 1, QImage::Format_ARGB32).save(&buffer, "PNG");
+  QFile part(cut);
+  ASSERT_TRUE(part.open(QIODevice::WriteOnly));
+  part.write(png.chopped(20));
+  part.close();
+  ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+  struct Case { QString script; const char* error; };
   const Case cases[] = {
+      {"print nosuchthing", "line 1: no session variable"},
+      {"print vVal1.Nonsense", "line 1: vVal1 has no property"},
+      {"set lMode.Caption hello", "line 1:"},  // a user cannot write a label
+      {"set vPencil.Value 9999", "line 1:"},
+      {"set vPencil.Value seven", "line 1:"},
+      {"set ckHold.Value 3", "line 1:"},
+      {"set lstFont.ListIndex 99999", "line 1:"},  // refused though the list is hidden
+      {"set lstFont.ListIndex -2", "line 1:"},
+      {"clipboard clear\nclipboard save " + dir.filePath("none.png"), "line 2: the clipboard holds no picture"},
+      {"clipboard load " + dir.filePath("missing.png"), "line 1: cannot read"},
+      {"clipboard load " + cut, "line 1: cannot read"},
+      {"clipboard load " + pipe, "line 1: cannot read"},  // at once, not waiting on the pipe
+      {"save lMode " + dir.filePath("x.bmp"), "line 1: 'lMode' is not a picture box"},
       {"wait 9223372036854775807\nwait 1", "line 1:"},
       {"menu mPencil\nwait 99999999999", "line 2:"},
       {QString("wait %1").arg(kMaxWaitMs + 1), "line 1:"},
       {"seed 1\n# a comment\ntype Text1 " + QString(kMaxLineChars, 'a'), "line 3:"},
-      {"set lstFont.ListIndex 99999", "line 1:"},  // refused though the list is hidden
-      {"set lstFont.ListIndex -2", "line 1:"},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.script.left(60).toStdString());
     errors.clear();
     EXPECT_EQ(run(c.script), 2);
-    EXPECT_TRUE(errors.contains(c.line)) << errors.toStdString();
+    EXPECT_TRUE(errors.contains(c.error)) << errors.toStdString();
   }
   EXPECT_EQ(run(QString("wait %1").arg(kMaxWaitMs)), 0);  // a day is allowed
 }
@@ -63,14 +67,6 @@ TEST_F(ScriptLimits, TheScreenSizeStaysWhereItsTwipsFit) {
   EXPECT_EQ(parseScreenSize(QString("%1x1").arg(kMaxScreenSide)), QSize(kMaxScreenSide, 1));
   for (const char* bad : {"2147483647x2147483647", "16385x10", "0x5", "axb", "640", "-1x5"})
     EXPECT_TRUE(parseScreenSize(bad).isEmpty()) << bad;
-}
-
-// Every key redraws the 3D text sample, at a cost that does not grow with the text: a long
-// line types in time in proportion to its length.
-TEST_F(ScriptLimits, LongTextTypesWhole) {
-  const QString text(20000, 'q');
-  ASSERT_EQ(run("menu mTxBrush\ntype Text1 " + text), 0) << errors.toStdString();
-  EXPECT_TRUE(f().Text1.Text.get().endsWith(text));
 }
 
 // Typing edits the text in place: its storage moves only as it grows, not at every key.
