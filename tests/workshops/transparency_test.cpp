@@ -1,14 +1,7 @@
 // The Transparency Tool: its picture functions alone, then the window driven through its controls.
-#include <QAction>
 #include <QClipboard>
-#include <QDir>
 #include <QGuiApplication>
-#include <QMenuBar>
-#include <QFile>
-#include <QTemporaryDir>
 
-#include "files/PictureFiles.h"
-#include "platform/qt/FormView.h"
 #include "platform/qt/QtRuntime.h"
 #include "support/ProgramFixture.h"
 #include "surface/Device.h"
@@ -67,20 +60,6 @@ class TransparencyToolTest : public ProgramTest {
     up(x1, y1);
   }
 };
-
-// On the desktop the tool is a window of its own, with its menus, in place of the main window.
-TEST_F(TransparencyToolTest, ShowsAsAWindowOfItsOwn) {
-  FormView mainView(f());
-  FormView blueView(b());
-  mainView.sync();
-  blueView.sync();
-  EXPECT_TRUE(blueView.window().isWindow());
-  EXPECT_TRUE(blueView.window().isVisible());
-  EXPECT_FALSE(mainView.window().isVisible());
-  QStringList menus;
-  for (QAction* a : blueView.window().menuBar()->actions()) menus << a->text();
-  EXPECT_TRUE(menus.contains("Done") && menus.contains("Zoom")) << menus.join(", ").toStdString();
-}
 
 TEST_F(TransparencyToolTest, TheEraserPaintsTheKeyColourAndRightClickUndoesToThePress) {
   b().lWht.raiseClick();
@@ -158,21 +137,6 @@ TEST_F(TransparencyToolTest, ZoomTriplesAndNormalBringsTheWorkBack) {
   b().mZoom1.raiseClick();
   EXPECT_EQ(at(19, 19), 0x000000);
   EXPECT_NE(at(5, 5), 0x000000);
-}
-
-TEST_F(TransparencyToolTest, TheMaskIsSavedThroughTheFileWindow) {
-  QTemporaryDir dir;
-  ASSERT_TRUE(dir.isValid());
-  b().mSave.raiseClick();
-  frmFile& d = program->w.file;
-  ASSERT_TRUE(d.Visible);
-  d.Dir1.Path = dir.path();
-  d.TxtFile.Text = "mask";
-  d.cmdOK.raiseClick();
-  EXPECT_FALSE(d.Visible);
-  const QImage saved = LoadPicture(dir.filePath("mask.bmp"));
-  EXPECT_EQ(saved.size(), QSize(40, 30));
-  EXPECT_EQ(saved.pixel(3, 4) & 0xFFFFFF, gradient(40, 30).pixel(3, 4) & 0xFFFFFF);
 }
 
 // The real system clipboard: a picture copied here is there for another program, and one put
