@@ -1,5 +1,5 @@
-// The workshops' whole-picture operations on their own: tiling styles, the blend's arithmetic and
-// cropping. Stretching and the key-colour overlay are checked through their windows.
+// The workshops' whole-picture operations on their own: tiling styles and the blend's arithmetic.
+// Stretching, cropping and the key-colour overlay are checked through their windows.
 #include <gtest/gtest.h>
 
 #include <QImage>
@@ -127,16 +127,6 @@ TEST(Blend, FastPathMatchesThePlainFormulaOnEveryPixel) {
     ASSERT_EQ(fast.picture, plain.picture) << "round " << round << " p " << p;
   }
   EXPECT_TRUE(BlendPictures(QImage(), noise(rng, 2, 2), 50).picture.isNull());
-}
-
-TEST(Crop, TheRectangleIsCutToThePicture) {
-  QImage img = filled(10, 8, kRed);
-  img.setPixel(9, 7, kBlue);
-  struct Case { QRect rect; QSize want; };
-  for (const Case c : {Case{QRect(2, 3, 4, 2), QSize(4, 2)}, {QRect(8, 6, 10, 10), QSize(2, 2)},
-                       {QRect(-5, -5, 7, 6), QSize(2, 1)}, {QRect(20, 0, 3, 3), QSize(0, 0)}, {QRect(1, 1, 0, 4), QSize(0, 0)}})
-    EXPECT_EQ(CropPicture(img, c.rect).size(), c.want) << c.rect.x() << "," << c.rect.y();
-  EXPECT_EQ(CropPicture(img, QRect(8, 6, 10, 10)).pixel(1, 1), kBlue);
 }
 
 }  // namespace

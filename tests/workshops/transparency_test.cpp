@@ -90,10 +90,14 @@ TEST_F(TransparencyToolTest, CtrlSamplesOnPressAndTakesTheColourOnRelease) {
   EXPECT_EQ(at(20, 10), picked);  // a pick does not erase
 }
 
-TEST_F(TransparencyToolTest, DoneHandsTheSelectionAndItsKeyToTheCanvas) {
+TEST_F(TransparencyToolTest, DoneHandsTheLastSelectionAndItsKeyToTheCanvas) {
   b().mDun.Click();  // with nothing selected Done changes nothing
   EXPECT_TRUE(b().Visible);
   b().lBlu.raiseClick();
+  select(5, 4, 25, 14);
+  ASSERT_TRUE(b().DShp.Visible && b().tSel.Enabled);
+  up(25, 14, 0, vbRightButton);  // a right click takes the selection away
+  EXPECT_FALSE(b().DShp.Visible || b().tSel.Enabled);
   select(5, 4, 25, 14);
   const Colour corner = at(5, 4);
   b().mDun.raiseClick();  // the windows' swap and the mode: the transparent-painting scenario
@@ -105,21 +109,11 @@ TEST_F(TransparencyToolTest, DoneHandsTheSelectionAndItsKeyToTheCanvas) {
   choose(f().mBluScrn);
   EXPECT_EQ(b().pBlu.Width.get(), 600);
   EXPECT_EQ(at(5, 4), corner);
-  QImage other(8, 8, QImage::Format_RGB32);
-  other.fill(qRgb(9, 9, 9));
-  headless.clipboard.SetData(other);
+  headless.clipboard.SetData(gradient(8, 8));
   b().mPaste.raiseClick();
   EXPECT_EQ(b().pBlu.Width.get(), 120);
   b().mPrev.raiseClick();
   EXPECT_EQ(at(5, 4), corner);
-}
-
-TEST_F(TransparencyToolTest, RightClickAfterASelectionTakesItAway) {
-  select(5, 4, 25, 14);
-  ASSERT_TRUE(b().DShp.Visible && b().tSel.Enabled);
-  up(25, 14, 0, vbRightButton);
-  EXPECT_FALSE(b().DShp.Visible);
-  EXPECT_FALSE(b().tSel.Enabled);
 }
 
 TEST_F(TransparencyToolTest, ZoomTriplesAndNormalBringsTheWorkBack) {
