@@ -11,8 +11,7 @@ namespace qp::script {
 
 class ScriptTest : public ::testing::Test {
  protected:
-  // Runs the text on the session; the status as the command line gives it. A line that does not
-  // parse is reported with its number, as the command line reports it.
+  // Runs the text on the session; the status as the command line gives it, parse errors included.
   int run(const QString& text) {
     std::vector<Command> commands;
     ParseError perr;
