@@ -66,7 +66,6 @@ TEST(ScriptParser, FileNamesMayHoldSpaces) {
   ASSERT_EQ(c.size(), 3u);
   EXPECT_EQ(c[0].text, "pics/a b.bmp");
   EXPECT_EQ(c[1].text, "my pic.bmp");
-  EXPECT_EQ(c[2].op, Op::DblClick);
   EXPECT_FALSE(c[2].hasPoint);
 }
 

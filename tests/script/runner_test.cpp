@@ -245,8 +245,7 @@ TEST(TextBoxTyping, EachKeyCostsTheSameHoweverLongTheText) {
 // Keys to a focused scroll bar move it as the window's bars move.
 TEST_F(ScriptRun, KeysMoveAFocusedScrollBar) {
   ASSERT_EQ(run("menu mPencil\nfocus vVal1"), 0) << errors.toStdString();
-  ASSERT_EQ(f().vVal1.Value.get(), 4);  // AutoDraw's speed: Min 40, Max 1
-  struct Case { const char* key; int value; };
+  struct Case { const char* key; int value; };  // from AutoDraw's speed 4, on a bar from 40 to 1
   const Case cases[] = {{"Up", 5}, {"Left", 6}, {"Down", 5}, {"Right", 4}, {"PageUp", 5},
                         {"PageDown", 4}, {"Home", 40}, {"End", 1}};
   for (const Case& c : cases) {

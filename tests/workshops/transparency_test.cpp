@@ -17,9 +17,15 @@ QImage gradient(int w, int h) {
   return img;
 }
 
-// Zooming and shrinking back are checked through the window; here, a picture too big to zoom.
-TEST(TransparencyPictures, ZoomRefusesAPictureTooBigToHold) {
+// Zooming and cutting inside the picture are checked through the window; here, their edges.
+TEST(TransparencyPictures, ATooBigZoomIsRefusedAndACutPastTheEdgeTakesTheFillColour) {
   EXPECT_TRUE(ZoomPicture(QImage(9000, 9000, QImage::Format_RGB32), 2).isNull());
+  const QImage pic = gradient(6, 6);
+  const QImage cut = CutRectangle(pic, QRect(4, -1, 4, 3), 0x0000FF);
+  ASSERT_EQ(cut.size(), QSize(4, 3));
+  EXPECT_EQ(cut.pixel(1, 2), pic.pixel(5, 1));
+  EXPECT_EQ(cut.pixel(2, 1) & 0xFFFFFF, 0xFF0000u);  // right of the picture
+  EXPECT_EQ(cut.pixel(0, 0) & 0xFFFFFF, 0xFF0000u);  // above it
 }
 
 class TransparencyToolTest : public ProgramTest {
