@@ -61,15 +61,16 @@ class ToolTest : public ProgramTest {
   int count(Colour c) { return countColour(f().PicPaint, c); }
   // A drag on the canvas between two pixel positions.
   void drag(int x0, int y0, int x1, int y1) { stroke({{x0 * 15.0f, y0 * 15.0f}, {x1 * 15.0f, y1 * 15.0f}}); }
-  // A stroke through the given points, in twips.
-  void stroke(std::initializer_list<QPointF> points) {
+  // A stroke through the given points, on the canvas in twips unless another surface is named.
+  void stroke(std::initializer_list<QPointF> points, PictureBox* on = nullptr) {
+    PictureBox& box = on ? *on : f().PicPaint;
     const QPointF* last = nullptr;
     for (const QPointF& p : points) {
-      if (!last) press(p.x(), p.y());
-      else move(p.x(), p.y());
+      if (!last) box.raiseMouseDown(vbLeftButton, 0, p.x(), p.y());
+      else box.raiseMouseMove(vbLeftButton, 0, p.x(), p.y());
       last = &p;
     }
-    release(last->x(), last->y());
+    box.raiseMouseUp(vbLeftButton, 0, last->x(), last->y());
   }
   struct Probe { int x, y; Colour c; };
   // Pixels of a surface (the canvas unless another is named), each with the colour it must have.

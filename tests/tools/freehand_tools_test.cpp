@@ -33,22 +33,6 @@ TEST_F(ShadowDrawTest, TheTrackIsInTheBackColourAndTheCopiesFollowTheBoxes) {
   EXPECT_EQ(m().LastX, 6000);
 }
 
-TEST_F(ShadowDrawTest, RainbowWithTheShadowBoxCarriesTheTrackColourOnlyWhenMoving) {
-  const Long back = m().BackClr;
-  for (int box : {1, 0}) {
-    enter(f().mShadow);
-    m().BackClr = back;
-    f().ckVal.Value = box;
-    f().vColmode.Value = 1;
-    press(3000, 3000);
-    EXPECT_EQ(m().BackClr, back);  // the press keeps the back colour
-    move(4500, 3000);
-    EXPECT_EQ(m().BackClr == m().ForeClr, box == 1);
-    EXPECT_EQ(m().BackClr == back, box == 0);
-    release(4500, 3000);
-  }
-}
-
 TEST_F(ShadowDrawTest, TheOffsetSurvivesEntryAndAnOverflowEndsOnlyItsStep) {
   enter(f().mShadow);
   m().StepSize = 300;
@@ -83,9 +67,7 @@ TEST_F(ToolTest, TheAirBrushSpraysAroundThePointerWithinTheSpreadUntilTheRelease
     const Ink ink = inkOf(f().PicPaint, {100.5, 100.5});
     EXPECT_GE(ink.farthest, c.atLeast) << c.spread;
     EXPECT_LE(ink.farthest, c.atMost) << c.spread;
-    if (c.spread == 0) {
-      EXPECT_EQ(sprayed, 1);
-    }
+    EXPECT_TRUE(c.spread > 0 || sprayed == 1);  // no spread: every dot on the one pixel
   }
 }
 
@@ -115,9 +97,7 @@ TEST_F(ToolTest, CrazyPencilStepsThroughTheEvenDrawModesOnePerPress) {
   m().ForeClr = 0x00FF00;
   f().ckVal2.Value = 1;  // the bar's mode stays
   f().vVal1.Value = 0;   // not merge pen
-  press(1500, 1500);
-  EXPECT_EQ(f().PicPaint.DrawMode, 2);
-  release(1500, 1500);
+  stroke({{1500, 1500}});
   EXPECT_EQ(pixel(100, 100), 0xFF00FF);  // not (pen or canvas) over black
 }
 
@@ -135,17 +115,19 @@ TEST_F(ToolTest, CrazyPencilRandomColoursComeFromTheSixteen) {
   }
 }
 
-class AutoDrawTest : public PencilTest {
+class AutoDrawTest : public ToolTest {
  protected:
   void SetUp() override {
-    PencilTest::SetUp();
+    ToolTest::SetUp();
+    f().vColmode.Value = 0;
     f().ckVal.Value = 1;
-    drawDot(1500, 1500);  // a click puts the pen where it was released
+    stroke({{1500, 1500}});  // a click puts the pen where it was released
   }
   void keyDown(int code) { canvasKeyDown(f(), code); }
   void keyUp(int code) { canvasKeyUp(f(), code); }
   // Runs n ticks of the pen.
   void ticks(int n) { headless.loop.advance(static_cast<std::int64_t>(f().tDraw.Interval) * n); }
+  QPoint pen() { return QPoint(f().AutoDrawX, f().AutoDrawY); }
 };
 
 TEST_F(AutoDrawTest, AHeldArrowMovesThePenAndDrawsItsTrack) {
@@ -153,8 +135,7 @@ TEST_F(AutoDrawTest, AHeldArrowMovesThePenAndDrawsItsTrack) {
   keyDown(vbKeyRight);
   EXPECT_TRUE(f().tDraw.Enabled);
   ticks(4);
-  EXPECT_EQ(f().AutoDrawX, 1500 + 4 * 15);
-  EXPECT_EQ(f().AutoDrawY, 1500);
+  EXPECT_EQ(pen(), QPoint(1500 + 4 * 15, 1500));
   EXPECT_EQ(f().lX.Caption.get(), "X : 104");
   EXPECT_EQ(pixel(102, 100), 0xFFFFFF);
   keyUp(vbKeyRight);
@@ -175,15 +156,13 @@ TEST_F(AutoDrawTest, OppositeKeysCancelAndCrossingKeysGoDiagonally) {
   keyDown(vbKeyRight);
   keyDown(vbKeyUp);
   ticks(3);
-  EXPECT_EQ(f().AutoDrawX, 1500);
-  EXPECT_EQ(f().AutoDrawY, 1500 - 3 * 4);
+  EXPECT_EQ(pen(), QPoint(1500, 1500 - 3 * 4));
 
   keyUp(vbKeyLeft);
   keyUp(vbKeyUp);
   keyDown(vbKeyDown);  // Right is still held: its flag stays
   ticks(2);
-  EXPECT_EQ(f().AutoDrawX, 1500 + 2 * 4);
-  EXPECT_EQ(f().AutoDrawY, 1488 + 2 * 4);
+  EXPECT_EQ(pen(), QPoint(1500 + 2 * 4, 1488 + 2 * 4));
 }
 
 TEST_F(AutoDrawTest, ThePenMayLeaveTheCanvasButNotSixteenBits) {

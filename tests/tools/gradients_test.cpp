@@ -9,12 +9,20 @@ namespace {
 
 using GradientFill = SurfaceTest;
 
-TEST_F(GradientFill, EachOptionFeedsItsOwnChannelsAndSaturates) {
+TEST_F(GradientFill, EachOptionFeedsItsOwnChannelsAndSaturatesInRampsAndRings) {
   // Colours read 0xBBGGRR: red in the low byte.
   const Colour expected[] = {0x404040, 0x000040, 0x004000, 0x400000, 0x004040, 0x404000, 0x400040};
   for (int option = 0; option <= 6; ++option) EXPECT_EQ(RampColour(option, 0x40), expected[option]) << option;
   EXPECT_EQ(RampColour(4, 300), 0x00FFFF);
   EXPECT_FALSE(RampColour(7, 10));
+  // The rings' colours: the colour boxes hold red 1, green 2, blue 3.
+  struct Case { int option; bool mixed; Colour expected; };
+  for (const Case c : {Case{0, false, 0x808080}, Case{3, false, 0x800000}, Case{5, false, 0x808000},
+                       Case{1, true, 0x030280}, Case{2, true, 0x038001}, Case{6, true, 0x800280}}) {
+    EXPECT_EQ(RingColour(c.option, 0x80, c.mixed, 1, 2, 3), c.expected) << c.option << c.mixed;
+  }
+  EXPECT_FALSE(RingColour(0, 10, true, 1, 2, 3));  // white has no mixed colour
+  EXPECT_THROW(RingColour(1, -1, false, 0, 0, 0), RuntimeError);
 }
 
 TEST_F(GradientFill, DiamondsCloseInFromBlackToTheLastStep) {
@@ -111,17 +119,6 @@ TEST_F(CanvasGradients, TinyAndWideCanvasesTakeEveryStyle) {
   }
 }
 
-TEST(RingColour, PureAndMixedColoursFillTheirOwnChannels) {
-  struct Case { int option; bool mixed; Colour expected; };
-  // The colour boxes hold red 1, green 2, blue 3; colours read 0xBBGGRR.
-  for (const Case c : {Case{0, false, 0x808080}, Case{3, false, 0x800000}, Case{5, false, 0x808000},
-                       Case{1, true, 0x030280}, Case{2, true, 0x038001}, Case{6, true, 0x800280}}) {
-    EXPECT_EQ(RingColour(c.option, 0x80, c.mixed, 1, 2, 3), c.expected) << c.option << c.mixed;
-  }
-  EXPECT_FALSE(RingColour(0, 10, true, 1, 2, 3));  // white has no mixed colour
-  EXPECT_THROW(RingColour(1, -1, false, 0, 0, 0), RuntimeError);
-}
-
 class Spheres : public ToolTest {
  protected:
   void SetUp() override {
@@ -164,23 +161,6 @@ TEST_F(Spheres, TheTimerRepeatsAtThePointerWhileTheButtonIsHeld) {
   headless.loop.advance(500);
   EXPECT_EQ(pixel(105, 100), 0x000000);
   EXPECT_FALSE(f().tSphere.Enabled);
-}
-
-// Every bar at either end, in both modes, with mixing on and off: the rings draw and nothing fails.
-TEST_F(Spheres, EveryBarAtEitherEndStillDraws) {
-  for (Menu* mode : {&f().mBallz, &f().mCircFx}) {
-    choose(*mode);
-    for (int end = 0; end <= 1; ++end) {
-      for (int row = 1; row <= 5; ++row) {
-        ScrollBar& bar = f().valueBar(row);
-        if (bar.Visible) bar.Value = end ? bar.Max.get() : bar.Min.get();
-      }
-      f().ckVal.Value = 1 - end;  // white has no mixed colour
-      f().PicPaint.Picture = QImage();
-      stroke({{3000, 3000}});
-      EXPECT_NE(pixel(203, 200), 0x000000) << mode->key().toStdString() << end;
-    }
-  }
 }
 
 }  // namespace

@@ -1,5 +1,4 @@
 // Paint w/Pix: Collage Mode and Transparent Mode.
-#include <QDir>
 #include <QTemporaryDir>
 
 #include "tools/ToolFixture.h"
@@ -60,14 +59,6 @@ TEST_F(TransparentModeTest, OnePressStampsOnceUnlessTheBoxAsksForTheTimer) {
     EXPECT_EQ(stamps, c.stamps) << "box " << c.box;
     EXPECT_FALSE(f().tPix.Enabled);
   }
-}
-
-TEST_F(TransparentModeTest, AnEmptyBrushPaintsNothing) {
-  f().pT1.Picture = QImage();
-  const QImage before = f().pPix.Image;
-  pixPress(100, 100);
-  pixRelease(100, 100);
-  EXPECT_EQ(f().pPix.Image.get(), before);
 }
 
 TEST_F(ToolTest, CollageStretchesThePictureIntoEachDraggedRectangle) {

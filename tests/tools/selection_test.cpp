@@ -72,17 +72,6 @@ TEST_F(SelectionTest, MirrorAndInvertTurnTheFloatAndTwiceGiveItBack) {
   EXPECT_EQ(f().pSpire.Height.get(), 300);
 }
 
-TEST_F(SelectionTest, TheFloatsCommandsDoNothingOnceTheFloatIsGone) {
-  choose(f().mSelCpy);
-  drag(10, 20, 50, 40);
-  choose(f().mPencil);  // a new mode puts the float away; its menu items stay lit
-  const QImage canvas = f().PicPaint.Image;
-  for (Menu* item : {&f().mSaveSel, &f().mCpySel, &f().mMirSel, &f().mIvSel, &f().m44}) choose(*item);
-  EXPECT_FALSE(program->w.file.Visible);
-  EXPECT_TRUE(headless.clipboard.GetData().isNull());
-  EXPECT_EQ(f().PicPaint.Image.get(), canvas);
-}
-
 TEST_F(SelectionTest, TilesStretchTheFloatOverTheCanvasAndKeepItAfloat) {
   choose(f().mSelCpy);
   drag(0, 0, 20, 20);
@@ -110,16 +99,6 @@ TEST_F(SelectionTest, TheFloatGoesToTheClipboardAndAPasteCancelledKeepsItsMode) 
   EXPECT_FALSE(f().pTemp.Visible);
   EXPECT_EQ(m().PaintMode, 22);
   EXPECT_EQ(pixel(100, 60), at(100, 60));
-}
-
-TEST_F(SelectionTest, EmptyOrOversizedClipboardPastesNothing) {
-  for (const QImage& picture : {QImage(), QImage(20000, 1, QImage::Format_RGB32)}) {
-    choose(f().mSelCpy);
-    headless.clipboard.SetData(picture);
-    choose(f().mnuPaste);
-    EXPECT_EQ(m().PaintMode, 19);
-    EXPECT_FALSE(f().pTemp.Visible);
-  }
 }
 
 TEST_F(SelectionTest, SelectForTransparencyHandsTheNextSelectionToTheTransparencyTool) {

