@@ -1,6 +1,4 @@
 // GeoSpiralz, MiniSpiralz, Freehand Spiralz and the full-screen window, on the virtual clock.
-#include <cmath>
-
 #include "core/Keyboard.h"
 #include "support/KeyInput.h"
 #include "tools/ToolFixture.h"
@@ -10,13 +8,11 @@
 namespace qp::test {
 namespace {
 
-class GeoSpiralTest : public ProgramTest {
+class GeoSpiralTest : public ToolTest {
  protected:
   void SetUp() override {
-    ProgramTest::SetUp();
-    choose(f().mSpir2);
-    f().vColmode.Value = 0;
-    f().PicPaint.Picture = QImage();
+    ToolTest::SetUp();
+    enter(f().mSpir2);
   }
   void figure(int equation, int symmetry, int density, int style = 0) {
     f().vVal1.Value = equation;
@@ -24,33 +20,8 @@ class GeoSpiralTest : public ProgramTest {
     f().vVal3.Value = density;
     f().vVal4.Value = style;
   }
-  // Lit pixels of a surface, by their distance from its centre in pixels.
-  struct Spread { int lit = 0; double nearest = 1e9, farthest = 0; };
-  static Spread spread(const PictureBox& p) {
-    const QImage& img = p.bitmap();
-    Spread s;
-    const double cx = img.width() / 2.0, cy = img.height() / 2.0;
-    for (int y = 0; y < img.height(); ++y)
-      for (int x = 0; x < img.width(); ++x) {
-        if ((img.pixel(x, y) & 0xFFFFFF) == 0) continue;
-        ++s.lit;
-        const double d = std::hypot(x + 0.5 - cx, y + 0.5 - cy);
-        s.nearest = std::min(s.nearest, d);
-        s.farthest = std::max(s.farthest, d);
-      }
-    return s;
-  }
-  double radiusPixels() { return f().PicPaint.ScaleHeight * 0.45 / 15.0; }
-  std::int64_t now() { return headless.loop.now(); }
-  // Runs `what` once, `afterMs` into whatever comes next (a drawing that waits on the loop).
-  void during(std::int64_t afterMs, std::function<void()> what) {
-    probe = std::make_unique<Timer>(&f(), "tProbe", static_cast<int>(afterMs), true);
-    probe->Timer_ = [this, what] {
-      probe->Enabled = false;
-      what();
-    };
-  }
-  std::unique_ptr<Timer> probe;
+  // Lit pixels of a surface, measured from its centre.
+  static Ink spread(const PictureBox& p) { return inkOf(p, QPointF(p.bitmap().width(), p.bitmap().height()) / 2); }
 };
 
 TEST_F(GeoSpiralTest, EachEquationDrawsItsOwnFigureAroundTheCentre) {
@@ -60,7 +31,6 @@ TEST_F(GeoSpiralTest, EachEquationDrawsItsOwnFigureAroundTheCentre) {
   const Case cases[] = {
       {0, 0.69, 1.01},  // (1 - 0.3 sin^2) between 0.7 and 1
       {1, 0.08, 0.74},  // grows with the step: 1 - 28 / (i + 30), up to i = 73
-      {8, 0.0, 1.01},   // only the centre and the circle
       {3, 0.32, 1.01},  // (1 - sin / 2) * 0.67 between a third and the circle
   };
   for (const Case& c : cases) {
@@ -68,8 +38,8 @@ TEST_F(GeoSpiralTest, EachEquationDrawsItsOwnFigureAroundTheCentre) {
     f().PicPaint.Picture = QImage();
     figure(c.equation, 3, 1);
     f().cCan.raiseClick();
-    const Spread s = spread(f().PicPaint);
-    const double r = radiusPixels();
+    const Ink s = spread(f().PicPaint);
+    const double r = f().PicPaint.ScaleHeight * 0.45 / 15.0;
     ASSERT_GT(s.lit, 0);
     EXPECT_GE(s.nearest, c.nearest * r - 2);
     EXPECT_LE(s.nearest, c.nearest * r + 0.05 * r + 2);
@@ -77,33 +47,15 @@ TEST_F(GeoSpiralTest, EachEquationDrawsItsOwnFigureAroundTheCentre) {
   }
 }
 
-TEST_F(GeoSpiralTest, RadiusEquationsAtTheirEdges) {
-  EXPECT_DOUBLE_EQ(SpiralEquation(6, 0, 90, 3, 4, 1.0), 60.0);  // (4 mod 3 + 1) / 3
-  EXPECT_DOUBLE_EQ(SpiralEquation(1, 0, 100, 3, 40, 1.0), 60.0);
-  EXPECT_NEAR(SpiralEquation(11, 0, 64, 1, 1, std::asin(0.5)), 1.0, 1e-9);  // sin^6
-  EXPECT_DOUBLE_EQ(SpiralEquation(16, 7.5, 100, 3, 1, 1.0), 7.5);  // no such equation: R stays
-  EXPECT_DOUBLE_EQ(SpiralEquation(-1, 2.5, 100, 3, 1, 1.0), 2.5);
-  EXPECT_THROW(SpiralEquation(13, 0, 100, 1, 1, 0.0), RuntimeError);  // cos / sin at sin 0
-  const double at = SpiralEquation(10, 0, 100, 1, 1, 6.283185308 * 2.5);  // Q = 2.5: 2 mod 2 = 0
-  EXPECT_NEAR(at, -50.0, 1e-6);
-}
-
-TEST_F(GeoSpiralTest, TheDrawingTakesTenMillisecondsALineAndLetsTimersRunBetween) {
+TEST_F(GeoSpiralTest, TheDrawingLetsTimersRunBetweenItsLines) {
   figure(0, 3, 3);
-  std::vector<std::int64_t> ticks;
   std::vector<int> litAtTick;
   Timer watch(&f(), "tWatch", 500, true);
-  watch.Timer_ = [&] {
-    ticks.push_back(now());
-    litAtTick.push_back(spread(f().PicPaint).lit);
-  };
-  const std::int64_t start = now();
+  watch.Timer_ = [&] { litAtTick.push_back(spread(f().PicPaint).lit); };
   f().cCan.raiseClick();
   watch.Enabled = false;
-  EXPECT_EQ(now() - start, (3 * 72 + 1) * 10);  // 217 lines
-  ASSERT_EQ(ticks.size(), 4u);
-  for (size_t k = 0; k < ticks.size(); ++k) EXPECT_EQ(ticks[k] - start, 500 * std::int64_t(k + 1));
-  // The canvas grew between the ticks: the timer ran in the middle of the drawing.
+  // 217 lines of 10 ms: four ticks, the canvas growing between them.
+  ASSERT_EQ(litAtTick.size(), 4u);
   EXPECT_GT(litAtTick[0], 0);
   EXPECT_LT(litAtTick[0], litAtTick[3]);
   EXPECT_LT(litAtTick[3], spread(f().PicPaint).lit);
@@ -118,54 +70,40 @@ TEST_F(GeoSpiralTest, InputDuringADrawingNeitherStacksNorBreaksIt) {
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.what);
-    probe.reset();
     program = std::make_unique<Program>(headless.rt());
     program->start();
     choose(f().mSpir2);
     figure(2, 5, 3);
-    during(500, c.input);
-    const std::int64_t start = now();
+    Timer probe(&f(), "tProbe", 500, true);  // the input comes half a second into the drawing
+    probe.Timer_ = [&] {
+      probe.Enabled = false;
+      c.input();
+    };
+    const std::int64_t start = headless.loop.now();
     f().cCan.raiseClick();
-    EXPECT_EQ(now() - start >= 2170, c.runsToTheEnd);
-    EXPECT_LE(now() - start, 2170);  // never a second drawing on top
+    // 217 lines of 10 ms each, never a second drawing on top
+    EXPECT_EQ(headless.loop.now() - start >= 2170, c.runsToTheEnd);
+    EXPECT_LE(headless.loop.now() - start, 2170);
     EXPECT_EQ(m().PaintMode, c.modeAfter);
     EXPECT_FALSE(f().SpiralDrawing);
   }
 }
 
-TEST_F(GeoSpiralTest, BarsAtTheirEndsAndTinyRectanglesStillDraw) {
-  for (int v : {0, 15}) {
-    figure(v, v == 0 ? 1 : 32, v == 0 ? 1 : 8, 2);
-    f().cCan.raiseClick();
-  }
+TEST_F(GeoSpiralTest, TinyRectanglesStillDraw) {
   figure(0, 3, 1, 0);
   f().ckVal.Value = 1;
-  press(3000, 3000);
-  release(3000, 3000);  // a rectangle of no size: its scale cannot be set, and nothing draws
-  press(3000, 3000);
-  move(3030, 3300);
-  release(3030, 3300);  // narrower than high: the figure's radius comes from its width
+  stroke({{3000, 3000}});  // a rectangle of no size: its scale cannot be set, and nothing draws
+  stroke({{3000, 3000}, {3030, 3300}});  // narrower than high: the figure's radius comes from its width
   EXPECT_GT(spread(f().pSpire).lit, 0);
 }
 
-class MiniSpiralzTest : public GeoSpiralTest {
- protected:
-  void SetUp() override {
-    GeoSpiralTest::SetUp();
-    f().ckVal.Value = 1;
-    figure(0, 3, 1);
-    // A rectangle from (100, 100) to (200, 180) pixels, dragged up and to the left.
-    press(3000, 2700);
-    move(1500, 1500);
-    release(1500, 1500);
-  }
-};
-
-TEST_F(MiniSpiralzTest, ALeftPressSetsItWhereItStoodAndTheFloatsScaleComesBack) {
+TEST_F(GeoSpiralTest, AMiniSpiralIsSetWhereItFloatedAndItsFloatGetsItsScaleBack) {
+  f().ckVal.Value = 1;
+  figure(0, 3, 1);
+  drag(200, 180, 100, 100);  // up and to the left
   const QImage floating = f().pSpire.Image;
   EXPECT_EQ(f().pSpire.ScaleWidth.get(), 1500);  // the canvas's twips while it floats
   f().pSpire.raiseMouseDown(vbLeftButton, 0, 10, 10);
-  EXPECT_FALSE(f().pSpire.Visible);
   EXPECT_EQ(QImage(f().PicPaint.Image).copy(100, 100, 100, 80).convertToFormat(QImage::Format_RGB32),
             floating.convertToFormat(QImage::Format_RGB32));
   choose(f().mPencil);
@@ -175,9 +113,8 @@ TEST_F(MiniSpiralzTest, ALeftPressSetsItWhereItStoodAndTheFloatsScaleComesBack) 
 TEST(PointAngle, TheAxesThroughTheCentreTakeFixedAnglesAndTheCentreKeepsTheOldOne) {
   struct Case { Single x, y; Single angle; };
   const Case cases[] = {
-      {260, 250, 0.0f},          {240, 250, 3.14159274f},  {250, 240, 4.712388975f},
-      {250, 260, 1.5707963f},    {250, 250, 7.0f},         {260, 260, 0.785398185f},
-      {240, 260, -3.92699075f},  {240, 240, -2.35619450f},
+      {260, 250, 0.0f},   {240, 250, 3.14159274f},   {250, 240, 4.712388975f}, {250, 260, 1.5707963f},
+      {250, 250, 7.0f},   {260, 260, 0.785398185f},  {240, 260, -3.92699075f}, {240, 240, -2.35619450f},
   };
   for (const Case& c : cases) {
     Single angle = 7.0f;
@@ -186,29 +123,26 @@ TEST(PointAngle, TheAxesThroughTheCentreTakeFixedAnglesAndTheCentreKeepsTheOldOn
   }
 }
 
-class FreehandTest : public ProgramTest {
+// The program starts in Freehand Spiralz, on the pixel surface.
+class FreehandTest : public ToolTest {
  protected:
   void SetUp() override {
-    ProgramTest::SetUp();  // the program starts in Freehand Spiralz
+    ProgramTest::SetUp();
     f().vColmode.Value = 0;
   }
   PictureBox& pix() { return f().pPix; }
-  void pixPress(Single x, Single y, int b = vbLeftButton) { pix().raiseMouseDown(b, 0, x, y); }
-  void pixMove(Single x, Single y) { pix().raiseMouseMove(vbLeftButton, 0, x, y); }
-  void pixRelease(Single x, Single y, int b = vbLeftButton) { pix().raiseMouseUp(b, 0, x, y); }
 };
 
 TEST_F(FreehandTest, AMoveStampsOneDotPerLineOfThePassOnTheRingOfThePointer) {
-  for (int lines : {6, 12, 72}) {
+  for (int lines : {6, 72}) {
     SCOPED_TRACE(lines);
     pix().BackColor = 0;
     pix().Picture = QImage();
     m().SpiralStep = lines;
     pixPress(330, 250);  // radius 80 from the centre of the square
     pixMove(330, 250);
-    EXPECT_EQ(litPixels(pix()), lines);  // the closing point of the turn falls on the first
-    EXPECT_EQ(pix().ScaleWidth.get(), 500);  // the spiral's square, whatever the box's size
-    EXPECT_EQ(pix().ScaleHeight.get(), 500);
+    EXPECT_EQ(inkOf(pix()).lit, lines);  // the closing point of the turn falls on the first
+    // The spiral's square is 500 units a side, whatever the box's size.
     const QImage& img = pix().bitmap();
     for (int y = 0; y < img.height(); ++y)
       for (int x = 0; x < img.width(); ++x) {
@@ -234,24 +168,17 @@ TEST_F(FreehandTest, RadialModeJoinsEachRingToTheLastAndOrbitalToThePress) {
 
 TEST_F(FreehandTest, MiniSpiralsDrawInTheDraggedBoxOnlyUntilCtrlAndARightClickSetIt) {
   f().ckVal2.raiseClick();
-  pixPress(100, 100);
-  pixMove(40, 20);
-  pixRelease(40, 20);
+  stroke({{100, 100}, {40, 20}}, &pix());
   PictureBox& box = f().pPX;
-  ASSERT_TRUE(box.Visible);
-  EXPECT_EQ(box.Left.get(), 40);
-  EXPECT_EQ(box.Width.get(), 60);
   pixPress(200, 200);  // the box stands: the surface under it takes no new box
   EXPECT_EQ(box.Left.get(), 40);
-  box.raiseMouseDown(vbLeftButton, 0, 300, 250);
-  box.raiseMouseMove(vbLeftButton, 0, 350, 300);
+  stroke({{300, 250}, {350, 300}}, &box);
   EXPECT_EQ(f().PixLastRadius, 50);  // Orbital: the rings fan out of the press's ring
-  box.raiseMouseUp(vbLeftButton, 0, 350, 300);
-  EXPECT_GT(litPixels(box, 0), 0);
-  EXPECT_EQ(litPixels(pix()), 0);
+  EXPECT_GT(inkOf(box).lit, 0);
+  EXPECT_EQ(inkOf(pix()).lit, 0);
   f().CtrlDown = -1;
   box.raiseMouseUp(vbRightButton, 0, 350, 300);
-  EXPECT_GT(litPixels(pix()), 0);  // set into the surface
+  EXPECT_GT(inkOf(pix()).lit, 0);  // set into the surface
 }
 
 class FullScreenTest : public FreehandTest {
@@ -261,28 +188,24 @@ class FullScreenTest : public FreehandTest {
     if (full().KeyDown) full().KeyDown(code, 0);
     if (full().KeyUp) full().KeyUp(code, 0);
   }
-  void fullKeyDown(int code) { full().KeyDown(code, 0); }
   void open() { windowKeyDown(f(), vbKeyF9); }
   // Pixels of the full-screen surface off its back colour (which it takes from the canvas's twin).
-  int litOnFull() { return litPixels(full().pPix, full().pPix.BackColor); }
+  int litOnFull() { return inkOf(full().pPix, {}, full().pPix.BackColor).lit; }
 };
 
 TEST_F(FullScreenTest, F9OpensTheWholeScreenAndBringsTheCanvasBack) {
   open();
   open();  // F9 again on the main window, quickly: still the one window
-  ASSERT_TRUE(full().Visible);
-  full().pPix.raiseMouseDown(vbLeftButton, 0, 300, 200);
-  full().pPix.raiseMouseMove(vbLeftButton, 0, 360, 300);
+  stroke({{300, 200}, {360, 300}}, &full().pPix);
   EXPECT_GT(litOnFull(), 0);
-  EXPECT_EQ(litPixels(pix()), 0);  // nothing reaches the canvas
+  EXPECT_EQ(inkOf(pix()).lit, 0);  // nothing reaches the canvas
   fullKey(120);
-  // Another screen: the next opening takes its size, afresh; one too small for the margins does no harm.
+  // Another screen: the next opening takes its size; one too small for the margins does no harm.
   headless.screen.setSize(1920, 1080);
   open();
   EXPECT_EQ(full().Width.get(), 1920 * 15);
-  EXPECT_EQ(litOnFull(), 0);
-  fullKey(120);
   headless.screen.setSize(40, 30);
+  fullKey(120);
   open();
   fullKey(120);
   choose(f().mPencil);
@@ -290,8 +213,17 @@ TEST_F(FullScreenTest, F9OpensTheWholeScreenAndBringsTheCanvasBack) {
   EXPECT_FALSE(full().Visible);
 }
 
-TEST_F(FullScreenTest, ItsKeysStopAtTheirEnds) {
+TEST_F(FullScreenTest, ItsKeysAndHeldArrowsStopAtTheirEnds) {
   open();
+  // Held arrows run its own width between the limits; only Down moves the offset.
+  f().ckHold.Value = 1;
+  const int offset = m().StepSize;
+  fullKey(vbKeyUp);
+  headless.loop.advance(120 * 30);
+  EXPECT_EQ(std::tuple(int(full().FullDrawWidth), bool(full().tPenUp.Enabled), int(m().StepSize)), std::tuple(24, false, offset));
+  fullKey(vbKeyDown);
+  headless.loop.advance(120 * 30);
+  EXPECT_EQ(std::tuple(int(full().FullDrawWidth), int(full().pPix.DrawWidth), int(m().StepSize)), std::tuple(4, 4, offset - 200));
   struct Case { const char* what; int key, presses; std::function<int()> read; int expected; };
   const Case cases[] = {
       {"plus", 107, 5, [this] { return f().vVal1.Value.get(); }, 24},
@@ -301,7 +233,6 @@ TEST_F(FullScreenTest, ItsKeysStopAtTheirEnds) {
       {"F12", 123, 5, [this] { return f().vColmode.Value.get(); }, 3},
       {"F11", 122, 5, [this] { return f().vColmode.Value.get(); }, 0},
       {"F1", 112, 3, [this] { return f().ckVal.Value.get(); }, 0},
-      {"numeric 5", 101, 1, [this] { return int(m().ColorOption); }, 5},
   };
   for (const Case& c : cases) {
     for (int k = 0; k < c.presses; ++k) fullKey(c.key);
@@ -310,22 +241,6 @@ TEST_F(FullScreenTest, ItsKeysStopAtTheirEnds) {
   EXPECT_EQ(m().SpiralStep, 6);
   fullKey(vbKeyEscape);
   EXPECT_TRUE(program->quitRequested());
-}
-
-TEST_F(FullScreenTest, HeldArrowsRunItsOwnWidthBetweenTheLimitsAndOnlyDownMovesTheOffset) {
-  open();
-  f().ckHold.Value = 1;
-  const int offset = m().StepSize;
-  fullKey(vbKeyUp);
-  headless.loop.advance(120 * 30);
-  EXPECT_EQ(full().FullDrawWidth, 24);  // vMax
-  EXPECT_FALSE(full().tPenUp.Enabled);
-  EXPECT_EQ(m().StepSize, offset);
-  fullKey(vbKeyDown);
-  headless.loop.advance(120 * 30);
-  EXPECT_EQ(full().FullDrawWidth, 4);  // vMin
-  EXPECT_EQ(m().StepSize, offset - 200);
-  EXPECT_EQ(full().pPix.DrawWidth.get(), 4);
 }
 
 }  // namespace
