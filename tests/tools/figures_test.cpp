@@ -43,6 +43,9 @@ struct FigureCase {
 
 TEST_F(FigureTest, EachFigurePaintsOnItsOwnSideOfThePointer) {
   const std::vector<FigureCase> cases = {
+      {0, {{-45, 0}, {45, 0}}, {{0, 45}}},                   // Horizontal
+      {5, {{0, 120}, {-60, 60}}, {{0, -120}, {-60, -60}}},   // Box hangs below
+      {24, {{0, -240}}, {{0, 240}}},                         // Spear Up
       {2, {{30, 30}}, {{-30, 30}, {30, -30}}},               // Backslash: down to the right
       {8, {{240, 0}}, {{0, -200}}},                          // Long Ellipse: wide
       {32, {{0, 100}, {0, -235}}, {{0, 235}}},               // Tree: trunk below, top above
@@ -56,6 +59,27 @@ TEST_F(FigureTest, EachFigurePaintsOnItsOwnSideOfThePointer) {
     for (auto [u, v] : c.lit) EXPECT_TRUE(litNear(u, v)) << u << ", " << v;
     for (auto [u, v] : c.dark) EXPECT_FALSE(litNear(u, v)) << u << ", " << v;
   }
+}
+
+TEST_F(FigureTest, HeldStampsFollowTheClockInPlaceAndRandomSizesStayOnTheBar) {
+  f().vVal2.Value = 4;  // Horizontal, 16 pixels each way
+  press(1500, 1500);    // Draw is set at entry: the press stamps once, the timer goes on
+  move(6000, 4500);
+  const uchar* bits = f().PicPaint.bitmap().constBits();
+  (void)f().PicPaint.takeDirty();
+  headless.loop.advance(19);
+  EXPECT_EQ(pixel(400, 300), kBlack);  // the stamps follow the clock, not the distance
+  headless.loop.advance(1);
+  EXPECT_EQ(pixel(400, 300), kWhite);
+  EXPECT_EQ(f().PicPaint.bitmap().constBits(), bits);  // drawn in place, marking only the stamp
+  const QRect dirty = f().PicPaint.takeDirty();
+  EXPECT_TRUE(!dirty.isEmpty() && QRect(380, 296, 41, 9).contains(dirty));
+  f().ckVal2.Value = 1;
+  std::set<int> sizes;
+  for (int tick = 0; tick < 40; ++tick, headless.loop.advance(20)) sizes.insert(f().vVal2.Value);
+  release(6000, 4500);
+  EXPECT_GE(sizes.size(), 3u);
+  EXPECT_GE(*sizes.begin(), 3);  // a random size is never below 3
 }
 
 // A figure's lines and circles as a set, mirrored about the vertical through the pointer or not; a

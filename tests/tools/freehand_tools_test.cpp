@@ -33,6 +33,21 @@ TEST_F(ShadowDrawTest, TheTrackIsInTheBackColourAndTheCopiesFollowTheBoxes) {
   EXPECT_EQ(m().LastX, 6000);
 }
 
+TEST_F(ShadowDrawTest, RainbowWithTheShadowBoxCarriesTheTrackColourOnlyWhenMoving) {
+  const Long back = m().BackClr;
+  for (int box : {1, 0}) {
+    enter(f().mShadow);
+    m().BackClr = back;
+    f().ckVal.Value = box;
+    f().vColmode.Value = 1;
+    press(3000, 3000);
+    EXPECT_EQ(m().BackClr, back);  // the press keeps the back colour
+    move(4500, 3000);
+    EXPECT_EQ(std::pair(m().BackClr == m().ForeClr, m().BackClr == back), std::pair(box == 1, box == 0));
+    release(4500, 3000);
+  }
+}
+
 TEST_F(ShadowDrawTest, TheOffsetSurvivesEntryAndAnOverflowEndsOnlyItsStep) {
   enter(f().mShadow);
   m().StepSize = 300;
@@ -75,7 +90,8 @@ TEST_F(ToolTest, EraserAndSawToothDrawOnePieceAnEvent) {
   enter(f().mEr);
   f().vVal1.Value = 300;  // 20 pixels a side
   stroke({{1500, 1500}, {3000, 1500}});
-  expectPixels({{109, 109, kBlue}, {150, 100, kBlack}});  // a square per event, nothing in between
+  // The press's square in the third colour, the move's in the fore colour, nothing in between.
+  expectPixels({{91, 91, kBlue}, {109, 109, kBlue}, {200, 108, kWhite}, {150, 100, kBlack}});
   enter(f().mSaw);
   f().vVal1.Value = 60;
   m().StepSize = 0;

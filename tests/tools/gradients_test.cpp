@@ -25,12 +25,25 @@ TEST_F(GradientFill, EachOptionFeedsItsOwnChannelsAndSaturatesInRampsAndRings) {
   EXPECT_THROW(RingColour(1, -1, false, 0, 0, 0), RuntimeError);
 }
 
+TEST_F(GradientFill, SquaresStepFromBlackAtTheEdgeToTheCentre) {
+  struct Case { int step; int fromEdge; int grey; };
+  // A pixel k from the edge lies last under the box of ramp value k * step.
+  for (const Case c : {Case{2, 0, 0}, Case{2, 50, 100}, Case{2, 100, 200}, Case{20, 12, 240}, Case{20, 13, 255}}) {
+    PictureBox& b = box(201, 201);
+    b.ScaleWidth = 200;
+    b.ScaleHeight = 200;
+    DrawSquares(b, 0, c.step);
+    EXPECT_EQ(px(b, c.fromEdge, 100), RGB(c.grey, c.grey, c.grey)) << c.step << " " << c.fromEdge;
+  }
+}
+
 TEST_F(GradientFill, DiamondsCloseInFromBlackToTheLastStep) {
   PictureBox& b = box(101, 101, 1, 0x00FF00);
   int rings = 0;
   EXPECT_TRUE(DrawDiamonds(b, 3, [&] { return ++rings > 0; }));
   EXPECT_EQ(rings, 256);
   EXPECT_LT(px(b, 0, 50), 0x080000);  // the outer rings, nearly black
+  EXPECT_EQ(px(b, 50, 50), 0xFE0000);  // the centre, blue 254
   EXPECT_EQ(px(b, 2, 2), 0x00FF00);    // outlines only: the corners keep what was there
 }
 
@@ -161,6 +174,23 @@ TEST_F(Spheres, TheTimerRepeatsAtThePointerWhileTheButtonIsHeld) {
   headless.loop.advance(500);
   EXPECT_EQ(pixel(105, 100), 0x000000);
   EXPECT_FALSE(f().tSphere.Enabled);
+}
+
+// Every bar at either end, in both modes, with mixing on and off: the rings draw and nothing fails.
+TEST_F(Spheres, EveryBarAtEitherEndStillDraws) {
+  for (Menu* mode : {&f().mBallz, &f().mCircFx}) {
+    choose(*mode);
+    for (int end = 0; end <= 1; ++end) {
+      for (int row = 1; row <= 5; ++row) {
+        ScrollBar& bar = f().valueBar(row);
+        if (bar.Visible) bar.Value = end ? bar.Max.get() : bar.Min.get();
+      }
+      f().ckVal.Value = 1 - end;  // white has no mixed colour
+      f().PicPaint.Picture = QImage();
+      stroke({{3000, 3000}});
+      EXPECT_NE(pixel(203, 200), 0x000000) << mode->key().toStdString() << end;
+    }
+  }
 }
 
 }  // namespace

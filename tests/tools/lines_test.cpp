@@ -10,13 +10,17 @@ TEST_F(LinesTest, SingleLineCopiesLieUnderneath) {
   // colours at -O, on the line, at +O
   struct Case { int shadow, third, offset; Colour before, on, after; };
   for (const Case& c : {Case{0, 0, 300, kBlack, kWhite, kBlack}, Case{0, 1, 300, kBlue, kWhite, kBlack},
-                        Case{1, 1, 300, kBlue, kWhite, kGray},
+                        Case{1, 0, 300, kBlack, kWhite, kGray}, Case{1, 1, 300, kBlue, kWhite, kGray},
                         Case{1, 1, 0, kBlack, kWhite, kBlack}}) {  // no offset: the main line lies on top
     enter(f().mSingle);
     f().ckVal.Value = c.shadow;
     f().ckVal2.Value = c.third;
     m().StepSize = c.offset;
-    stroke({{1500, 3000}, {6000, 3000}});
+    press(1500, 3000);
+    move(6000, 3000);
+    EXPECT_EQ(std::pair(Single(f().lnDraw.X2), pixel(250, 200)), std::pair(Single(6000), kBlack));  // only the band
+    release(6000, 3000);
+    EXPECT_FALSE(f().lnDraw.Visible);
     SCOPED_TRACE(testing::Message() << c.shadow << c.third << " " << c.offset);
     expectPixels({{250, 180, c.before}, {250, 200, c.on}, {250, 220, c.after}});
   }
@@ -39,7 +43,8 @@ TEST_F(LinesTest, CrazyLinezEquationsDrawAndMoveTheLastPoint) {
   // painted: a pixel of the move's line; last: the last point after the move
   struct Case { int equation; QPoint painted; float lastX, lastY; };
   // Press at (100, 100), move to (200, 150) pixels.
-  for (const Case& c : {Case{3, QPoint(150, 100), 3000, 2250},    // across, then advance
+  for (const Case& c : {Case{2, QPoint(300, 300), 1500, 1500},   // through the centre
+                        Case{3, QPoint(150, 100), 3000, 2250},    // across, then advance
                         Case{24, QPoint(150, 125), 1500, 1500},   // a spoke, the press kept
                         Case{13, QPoint(380, 300), 1500, 1500},   // four times, past the canvas
                         Case{36, QPoint(200, 50), 1500, 1500},    // from above the canvas
@@ -67,7 +72,7 @@ TEST_F(LinesTest, TheMirrorBoxesChooseTheCopies) {
   // lit: the stroke, its left-right copy, its top-bottom copy, the copy across the centre
   struct Case { int vert, horiz, autoDraw; std::vector<bool> lit; };
   for (const Case& c : {Case{0, 0, 0, {true, false, false, false}}, Case{1, 0, 0, {true, true, false, false}},
-                        Case{0, 1, 0, {true, false, true, false}},
+                        Case{0, 1, 0, {true, false, true, false}}, Case{1, 1, 0, {true, true, true, true}},
                         Case{1, 1, 1, {false, false, false, false}}}) {  // AutoDraw: the mouse only snapshots
     enter(f().mGpen);
     f().ckVert.Value = c.vert;

@@ -35,10 +35,14 @@ TEST_F(TransparentModeTest, TheKeyColourIsLeftOutExactlyAndOnlyIt) {
   const Colour ground = GetPixel(f().pPix, 0, 0);
   pixPress(100, 80);
   pixRelease(100, 80);
-  const int x0 = m().PixDrawX, y0 = m().PixDrawY;  // where the stamp stood
+  const int x0 = m().PixDrawX, y0 = m().PixDrawY;  // an eighth of the surface off the pointer
+  EXPECT_EQ(std::pair(x0, y0), std::pair(static_cast<int>(CLng(100 - f().pPix.Width.get() / 15 / 8)),
+                                         static_cast<int>(CLng(80 - f().pPix.Height.get() / 15 / 8))));
   // The key lets the canvas through, a colour one step off it is painted, nothing past the picture.
   expectPixels({{x0, y0, ground}, {x0 + 1, y0 + 3, ground}, {x0 + 2, y0, 0x00FE00}, {x0 + 3, y0 + 3, 0x0000FF},
                 {x0 + 4, y0 + 3, ground}}, &f().pPix);
+  pixRelease(0, 0, vbRightButton);  // undo
+  EXPECT_EQ(GetPixel(f().pPix, x0 + 3, y0 + 3), ground);
 }
 
 TEST_F(TransparentModeTest, OnePressStampsOnceUnlessTheBoxAsksForTheTimer) {
@@ -80,6 +84,8 @@ TEST_F(ToolTest, CollageStretchesThePictureIntoEachDraggedRectangle) {
     f().cPic.raiseClick();
   };
   const Colour ground = pixel(60, 30);
+  drag(10, 10, 50, 50);  // no picture yet
+  EXPECT_EQ(pixel(30, 30), ground);
   pick("broken.bmp");  // nothing to paint with
   EXPECT_FALSE(f().cCan.Enabled);
   pick("two.bmp");

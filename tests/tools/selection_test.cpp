@@ -40,11 +40,16 @@ TEST_F(SelectionTest, SelectAndCopyFloatsTheRectangleAndSetsItWhereItWasCarried)
   EXPECT_EQ(floatPixel(39, 19), at(49, 39));
   EXPECT_FALSE(f().mCopy.Enabled);
   // Carried with its corner a sixth of its size above and left of the pointer, its frame along.
-  stroke({{1500, 1200}, {1600, 950}});
+  press(1500, 1200);
+  EXPECT_EQ(std::pair(int(f().pSpire.Left), int(f().pSpire.Top)), std::pair(1400, 1150));
+  move(1600, 950);
+  release(1600, 950);
+  EXPECT_EQ(std::pair(int(f().pSpire.Left), int(f().pSpire.Top)), std::pair(1500, 900));
   EXPECT_EQ(f().DrawShape.Left.get(), 1500);
   f().pSpire.raiseMouseDown(vbLeftButton, 0, 10, 10);
   EXPECT_FALSE(f().tTemp.Enabled);
   EXPECT_TRUE(f().mCopy.Enabled);
+  EXPECT_FALSE(f().pSpire.Visible);
   expectPixels({{100, 60, at(10, 20)}, {139, 79, at(49, 39)}, {140, 60, at(140, 60)}});
 }
 
@@ -90,6 +95,7 @@ TEST_F(SelectionTest, TheFloatGoesToTheClipboardAndAPasteCancelledKeepsItsMode) 
   drag(10, 20, 50, 40);
   choose(f().mCpySel);
   EXPECT_EQ(headless.clipboard.GetData().size(), QSize(40, 20));
+  EXPECT_EQ(headless.clipboard.GetData().pixel(0, 0) & 0xFFFFFF, qRgb(10, 20, 7) & 0xFFFFFF);
   f().pSpire.raiseMouseUp(vbRightButton, 0, 0, 0);
   choose(f().mnuPaste);
   EXPECT_EQ(f().DrawShape.Left.get(), 480);

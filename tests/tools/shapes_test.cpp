@@ -46,11 +46,13 @@ TEST_F(ShapesTest, ADragUnderTwelvePixelsDrawsNothing) {
 TEST_F(ShapesTest, CirclesTakeTheirAspectAndTheFillStyle) {
   // colours at (300, 200), (300, 201), (304, 201)
   struct Case { int fill; Colour onGridRow, offGrid, onGridColumn; };
-  for (const Case& c : {Case{1, kBlack, kBlack, kBlack}, Case{3, kBlack, kBlack, kGray}, Case{6, kGray, kBlack, kGray}}) {
+  for (const Case& c : {Case{0, kGray, kGray, kGray}, Case{1, kBlack, kBlack, kBlack}, Case{2, kGray, kBlack, kBlack},
+                        Case{3, kBlack, kBlack, kGray}, Case{6, kGray, kBlack, kGray}}) {
     shape(2, c.fill);
     stroke({{1500, 1500}, {7500, 4500}});  // 400 x 200 pixels around (300, 200)
     SCOPED_TRACE(c.fill);
-    expectPixels({{300, 200, c.onGridRow}, {300, 201, c.offGrid}, {304, 201, c.onGridColumn}, {100, 200, kWhite}});
+    expectPixels({{300, 200, c.onGridRow}, {300, 201, c.offGrid}, {304, 201, c.onGridColumn}, {100, 200, kWhite},
+                  {300, 100, kWhite}, {300, 90, kBlack}});  // the outline at half the height, nothing outside
   }
 }
 

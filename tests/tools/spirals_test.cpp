@@ -31,6 +31,7 @@ TEST_F(GeoSpiralTest, EachEquationDrawsItsOwnFigureAroundTheCentre) {
   const Case cases[] = {
       {0, 0.69, 1.01},  // (1 - 0.3 sin^2) between 0.7 and 1
       {1, 0.08, 0.74},  // grows with the step: 1 - 28 / (i + 30), up to i = 73
+      {8, 0.0, 1.01},   // only the centre and the circle
       {3, 0.32, 1.01},  // (1 - sin / 2) * 0.67 between a third and the circle
   };
   for (const Case& c : cases) {
@@ -45,6 +46,15 @@ TEST_F(GeoSpiralTest, EachEquationDrawsItsOwnFigureAroundTheCentre) {
     EXPECT_LE(s.nearest, c.nearest * r + 0.05 * r + 2);
     EXPECT_LE(s.farthest, c.farthest * r + 2);
   }
+}
+
+TEST(SpiralEquation, RadiusEquationsAtTheirEdges) {
+  EXPECT_DOUBLE_EQ(SpiralEquation(6, 0, 90, 3, 4, 1.0), 60.0);  // (4 mod 3 + 1) / 3
+  EXPECT_NEAR(SpiralEquation(11, 0, 64, 1, 1, std::asin(0.5)), 1.0, 1e-9);  // sin^6
+  EXPECT_DOUBLE_EQ(SpiralEquation(16, 7.5, 100, 3, 1, 1.0), 7.5);  // no such equation: R stays
+  EXPECT_DOUBLE_EQ(SpiralEquation(-1, 2.5, 100, 3, 1, 1.0), 2.5);
+  EXPECT_THROW(SpiralEquation(13, 0, 100, 1, 1, 0.0), RuntimeError);  // cos / sin at sin 0
+  EXPECT_NEAR(SpiralEquation(10, 0, 100, 1, 1, 6.283185308 * 2.5), -50.0, 1e-6);  // Q = 2.5: 2 mod 2 = 0
 }
 
 TEST_F(GeoSpiralTest, TheDrawingLetsTimersRunBetweenItsLines) {
@@ -104,6 +114,7 @@ TEST_F(GeoSpiralTest, AMiniSpiralIsSetWhereItFloatedAndItsFloatGetsItsScaleBack)
   const QImage floating = f().pSpire.Image;
   EXPECT_EQ(f().pSpire.ScaleWidth.get(), 1500);  // the canvas's twips while it floats
   f().pSpire.raiseMouseDown(vbLeftButton, 0, 10, 10);
+  EXPECT_FALSE(f().pSpire.Visible);
   EXPECT_EQ(QImage(f().PicPaint.Image).copy(100, 100, 100, 80).convertToFormat(QImage::Format_RGB32),
             floating.convertToFormat(QImage::Format_RGB32));
   choose(f().mPencil);
@@ -203,7 +214,7 @@ TEST_F(FullScreenTest, F9OpensTheWholeScreenAndBringsTheCanvasBack) {
   // Another screen: the next opening takes its size; one too small for the margins does no harm.
   headless.screen.setSize(1920, 1080);
   open();
-  EXPECT_EQ(full().Width.get(), 1920 * 15);
+  EXPECT_EQ(std::pair(full().Width.get(), litOnFull()), std::pair(Single(1920 * 15), 0));  // afresh, blank
   headless.screen.setSize(40, 30);
   fullKey(120);
   open();
@@ -233,6 +244,7 @@ TEST_F(FullScreenTest, ItsKeysAndHeldArrowsStopAtTheirEnds) {
       {"F12", 123, 5, [this] { return f().vColmode.Value.get(); }, 3},
       {"F11", 122, 5, [this] { return f().vColmode.Value.get(); }, 0},
       {"F1", 112, 3, [this] { return f().ckVal.Value.get(); }, 0},
+      {"numeric 5", 101, 1, [this] { return int(m().ColorOption); }, 5},
   };
   for (const Case& c : cases) {
     for (int k = 0; k < c.presses; ++k) fullKey(c.key);

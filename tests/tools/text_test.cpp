@@ -23,6 +23,17 @@ TEST_F(TextTest, TheFontOptionsGoRoundOneCounterForBothLists) {
   EXPECT_EQ(f().FontOptionStep, 0);
 }
 
+TEST_F(TextTest, DraggingTheShadowSizeLeavesTheCanvasFontUntilTheDrop) {
+  choose(f().mShadTx);
+  const Single before = f().PicPaint.FontSize;
+  f().vShad.Value.setRaw(40);  // the thumb is dragged: Scroll
+  f().vShad.Scroll();
+  EXPECT_EQ(std::tuple(Single(f().pShadTest.FontSize), f().lShadFnt.Caption.get(), Single(f().PicPaint.FontSize)),
+            std::tuple(Single(40), QString("40"), before));
+  f().vShad.Value = 50;  // Change
+  EXPECT_EQ(std::pair(Single(f().PicPaint.FontSize), Single(f().pShadTest.FontSize)), std::pair(Single(50), Single(50)));
+}
+
 TEST_F(TextTest, A3DStackOfOneLayerStandsAtTheCentreInTheFullFrontColour) {
   enter(f().mText);
   for (int i = 0; i < 6; ++i) f().HS1(i).Value = i == 3 ? 255 : 0;  // black to red
