@@ -211,10 +211,13 @@ TEST_F(FullScreenTest, F9OpensTheWholeScreenAndBringsTheCanvasBack) {
   EXPECT_GT(litOnFull(), 0);
   EXPECT_EQ(inkOf(pix()).lit, 0);  // nothing reaches the canvas
   fullKey(120);
+  open();
+  EXPECT_EQ(litOnFull(), 0);  // reopened blank
+  fullKey(120);
   // Another screen: the next opening takes its size; one too small for the margins does no harm.
   headless.screen.setSize(1920, 1080);
   open();
-  EXPECT_EQ(std::pair(full().Width.get(), litOnFull()), std::pair(Single(1920 * 15), 0));  // afresh, blank
+  EXPECT_EQ(full().Width.get(), 1920 * 15);
   headless.screen.setSize(40, 30);
   fullKey(120);
   open();
