@@ -17,7 +17,8 @@ TEST_F(DeviceTest, PixelsCarryRedInTheLowByte) {
   for (int i : {0, 9}) SetPixel(b, i, i, kGreen);  // the first and last pixels are inside
   EXPECT_EQ(count(b, kGreen), 2);
   EXPECT_EQ(GetPixel(b, -1, 0) & GetPixel(b, 10, 0), -1);  // both outside
-  SetPixel(b, 10, 10, kWhite);  // outside: nothing
+  SetPixel(b, 10, 5, kWhite);  // one past the right or the bottom edge: nothing
+  SetPixel(b, 5, 10, kWhite);
   EXPECT_EQ(count(b, kWhite), 0);
 }
 
