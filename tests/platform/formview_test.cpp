@@ -1,4 +1,5 @@
-// The desktop view of a form, driven through real Qt widgets on the offscreen platform.
+// The desktop view of forms, driven through real Qt widgets on the offscreen platform: where the
+// widgets sit, what the user's pointer, keys and drops reach, several windows and a modal Show.
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
@@ -7,13 +8,16 @@
 #include <QCheckBox>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QPlainTextEdit>
 #include <QScrollBar>
+#include <QTimer>
 #include <QUrl>
 
 #include "platform/Controls.h"
 #include "platform/Headless.h"
 #include "platform/qt/FormView.h"
 #include "platform/qt/Keys.h"
+#include "platform/qt/QtRuntime.h"
 #include "surface/PictureBox.h"
 
 using namespace qp;
@@ -29,15 +33,23 @@ struct Canvas : Form {
     vVal1.Value = 24;
     vVal1.SmallChange = 2;
     lHelp.Move(150, 300, 1500, 450);
+    txHelp.MultiLine = true;
+    txHelp.Text = "Quillora\r\nPro";
   }
   PictureBox PicPaint{this, nullptr, "PicPaint"};
   VScrollBar vVal1{this, nullptr, "vVal1"};
   Label lHelp{this, nullptr, "lHelp"};
   CheckBox ckHold{this, nullptr, "ckHold"};
+  TextBox txHelp{this, nullptr, "txHelp"};
   Menu mnuToolz{this, nullptr, "mnuToolz", "&Toolz"};
   Menu mPencil{this, &mnuToolz, "mPencil", "Pencil"};
   Menu mSep{this, &mnuToolz, "mSep", "-"};
   Menu mEraser{this, &mnuToolz, "mEraser", "Eraser"};
+};
+
+struct Dialog : Form {
+  explicit Dialog(Runtime& rt) : Form(rt, "frmDialog") { txt.Move(150, 150, 3000, 1200); }
+  TextBox txt{this, nullptr, "txt"};
 };
 
 struct FormViewTest : ::testing::Test {
@@ -70,10 +82,6 @@ TEST_F(FormViewTest, WidgetsSitWhereTheControlsAreInPixels) {
   EXPECT_EQ(view.window().windowTitle(), "Untitled - Quillora Pro");
   EXPECT_TRUE(!view.actionFor(&f.mPencil)->isEnabled() && view.actionFor(&f.mSep)->isSeparator());
   EXPECT_EQ(view.actionFor(&f.mEraser)->text(), "Eraser!");
-  f.PicPaint.Line(0, 0, 1500, 0, 0x0000FF);
-  view.sync();
-  const QImage shot = pic->grab().toImage();
-  EXPECT_EQ(std::pair(QColor(shot.pixel(50, 0)), QColor(shot.pixel(50, 50))), std::pair(QColor(Qt::red), QColor(Qt::white)));
 }
 
 TEST_F(FormViewTest, PressOnPictureReachesMouseDownInItsScale) {
@@ -112,26 +120,52 @@ TEST_F(FormViewTest, ScrollBarAndCheckBoxWidgetsDriveTheirControlsBothWays) {
   f.ckHold.Value = 2;
   view.sync();
   EXPECT_EQ(box->checkState(), Qt::PartiallyChecked);
+  // A multi-line text box shows the program's line breaks and hands back the user's.
+  auto* edit = qobject_cast<QPlainTextEdit*>(view.widgetFor(&f.txHelp));
+  ASSERT_NE(edit, nullptr);
+  EXPECT_EQ(edit->toPlainText(), "Quillora\nPro");
+  f.txHelp.Change = [&] { ++changes; };
+  edit->moveCursor(QTextCursor::End);
+  edit->insertPlainText("\nPaint");  // the user typing Enter and a word
+  EXPECT_TRUE(f.txHelp.Text.get() == "Quillora\r\nPro\r\nPaint" && changes > 3) << f.txHelp.Text.get().toStdString();
+  f.txHelp.Text = "one\r\ntwo\r\nthree";
+  view.sync();
+  EXPECT_EQ(edit->document()->blockCount(), 3);
 }
 
-TEST_F(FormViewTest, KeysGoToTheFormFirstWithKeyPreview) {
+// Keys reach the form first with KeyPreview, then the focused control; a second window takes them
+// while it shows and gives them back to the window active again once it hides.
+TEST_F(FormViewTest, KeysGoToTheFormFirstAndToTheActiveWindow) {
   std::vector<std::string> order;
+  const auto log = [&](const char* who, int n) { order.push_back(who + std::to_string(n)); };
   f.KeyPreview = true;
-  f.KeyDown = [&](int& code, int shift) {
-    order.push_back("form " + std::to_string(code) + "/" + std::to_string(shift));
-  };
-  f.PicPaint.KeyDown = [&](int& code, int) { order.push_back("pic " + std::to_string(code)); };
-  f.PicPaint.KeyPress = [&](int& ascii) { order.push_back("press " + std::to_string(ascii)); };
+  f.KeyDown = [&](int& code, int shift) { log("form ", code * 10 + shift); };
+  f.PicPaint.KeyDown = [&](int& code, int) { log("pic ", code); };
+  f.PicPaint.KeyPress = [&](int& ascii) { log("press ", ascii); };
+  Dialog d(h.rt());
+  FormView dialogView(d);
+  d.txt.KeyDown = [&](int& code, int) { log("dialog ", code); };
   f.Show();
   view.sync();
   QWidget* pic = view.widgetFor(&f.PicPaint);
-  QApplication::setActiveWindow(&view.window());
+  view.activate();
   pic->setFocus();
   if (QApplication::focusWidget() != pic) GTEST_SKIP() << "this platform gives no keyboard focus";
   EXPECT_EQ(f.ActiveControl(), &f.PicPaint);
-  QKeyEvent down(QEvent::KeyPress, Qt::Key_Z, Qt::ControlModifier, QString(QChar(26)));
-  QApplication::sendEvent(pic, &down);
-  EXPECT_EQ(order, (std::vector<std::string>{"form 90/2", "pic 90", "press 26"}));
+  const auto key = [](Qt::Key k, Qt::KeyboardModifiers mods, const QString& text) {
+    QKeyEvent down(QEvent::KeyPress, k, mods, text);
+    if (QWidget* w = QApplication::focusWidget()) QApplication::sendEvent(w, &down);
+  };
+  key(Qt::Key_Z, Qt::ControlModifier, QString(QChar(26)));
+  d.Show();
+  d.setFocusTo(&d.txt);
+  dialogView.sync();
+  key(Qt::Key_F12, {}, {});
+  d.Hide();
+  dialogView.sync();
+  key(Qt::Key_F12, {}, {});
+  EXPECT_EQ(order, (std::vector<std::string>{"form 902", "pic 90", "press 26", "dialog 123", "form 1230", "pic 123"}));
+  EXPECT_EQ(h.loop.windows().active(), &f);
 }
 
 TEST(KeysTest, QtKeysBecomeTheRuntimesCodes) {
@@ -161,6 +195,46 @@ TEST_F(FormViewTest, DroppedFilesReachOLEDragDrop) {
   QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::NoButton, Qt::NoModifier);
   QApplication::sendEvent(pic, &drop);
   EXPECT_EQ(got, QStringList{"/tmp/a.bmp"});
+}
+
+TEST_F(FormViewTest, ModalShowWaitsUntilTheInputSourceHidesItsWindow) {
+  // A modal window opened from inside another returns first; the outer one goes on waiting until
+  // it hides too, and the window below is active again.
+  Dialog d(h.rt()), inner(h.rt());
+  f.Show();
+  std::vector<std::string> order;
+  int step = 0;
+  h.loop.setInputSource([&] {
+    ++step;
+    EXPECT_NE(h.loop.windows().modal(), nullptr) << "a window is modal while Show waits";
+    if (step == 1) {
+      inner.Show(true);
+      order.push_back("inner returned");
+    }
+    if (step == 2) inner.Hide();
+    if (step == 3) d.Hide();
+    return step < 10;
+  });
+  d.Show(true);
+  order.push_back("outer returned");
+  EXPECT_EQ(order, (std::vector<std::string>{"inner returned", "outer returned"}));
+  EXPECT_EQ(step, 3);
+  EXPECT_EQ(h.loop.windows().active(), &f);
+  h.loop.setInputSource({});
+}
+
+TEST(ModalShow, OnScreenRunsQtsLoopUntilTheWindowHides) {
+  QtRuntime q;
+  Dialog d(q.rt());
+  FormView dialogView(d);
+  bool modalOnScreen = false;
+  QTimer::singleShot(0, &dialogView, [&] {
+    dialogView.sync();
+    modalOnScreen = dialogView.window().isVisible() && dialogView.window().isModal();
+    d.Hide();
+  });
+  d.Show(true);  // returns only once the timer above has hidden the window
+  EXPECT_TRUE(modalOnScreen && !d.Visible);
 }
 
 }  // namespace

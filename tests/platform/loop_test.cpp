@@ -132,8 +132,6 @@ TEST(RandomTest, SameSeedSameSequenceSpreadEvenlyOverZeroToOne) {
   }
   EXPECT_TRUE(differs);
   for (int n : buckets) EXPECT_NEAR(n, 5000, 400);
-  a.Randomize(7);
-  EXPECT_EQ(a.Rnd(), Random(7).Rnd());
 }
 
 }  // namespace

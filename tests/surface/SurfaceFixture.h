@@ -56,16 +56,6 @@ class SurfaceTest : public ::testing::Test {
     return r;
   }
 
-  // Every pixel of the bitmap has an opaque alpha byte (a Format_RGB32 requirement).
-  static bool allOpaque(const PictureBox& b) {
-    for (int y = 0; y < b.pixelHeight(); ++y) {
-      const auto* row = reinterpret_cast<const std::uint32_t*>(b.bitmap().constScanLine(y));
-      for (int x = 0; x < b.pixelWidth(); ++x)
-        if ((row[x] >> 24) != 0xFF) return false;
-    }
-    return true;
-  }
-
   HeadlessRuntime headless;
   Form form{headless.rt(), "frmTest"};
   std::vector<std::unique_ptr<PictureBox>> boxes;

@@ -19,12 +19,10 @@ QString sentence(int n) {
 
 TEST_F(TextRunTest, TheLineKeyByKeyPrintsAsTheWholeLine) {
   struct Case {
-    const char* what;
-    const char* font;
+    const char *what, *font;
     Single size;
     int style;  // 1 bold, 2 italic, 4 underline, 8 strikeout
-    int length, erased;
-    int viewAt;    // the character brought near the box's left edge
+    int length, erased, viewAt;  // viewAt: the character brought near the box's left edge
     int scaleMode;
     bool transparent;
   };
@@ -52,11 +50,8 @@ TEST_F(TextRunTest, TheLineKeyByKeyPrintsAsTheWholeLine) {
       b->ForeColor = 0xFFFFFF;
     }
     const QString text = sentence(c.length);
-    const Single x = 5 * (c.scaleMode == 3 ? 1 : 15) - whole.TextWidth(text.left(c.viewAt));
-    for (PictureBox* b : {&whole, &keyed}) {
-      b->CurrentX = x;
-      b->CurrentY = c.scaleMode == 3 ? 10 : 150;
-    }
+    const Single unit = c.scaleMode == 3 ? 1 : 15, x = 5 * unit - whole.TextWidth(text.left(c.viewAt));
+    for (PictureBox* b : {&whole, &keyed}) b->CurrentX = x, b->CurrentY = 10 * unit;
     TextRun run;
     for (int i = 1; i <= text.size(); ++i) run.follow(keyed, text.left(i), i - 1);
     const QString left = text.left(text.size() - c.erased);
@@ -67,10 +62,9 @@ TEST_F(TextRunTest, TheLineKeyByKeyPrintsAsTheWholeLine) {
     keyed.PrintRun(left, run);
     EXPECT_TRUE(whole.bitmap() == keyed.bitmap());
     EXPECT_EQ(whole.takeDirty(), keyed.takeDirty());  // the view repaints the same rectangle
-    EXPECT_EQ(whole.CurrentX.get(), keyed.CurrentX.get());
-    EXPECT_EQ(whole.CurrentY.get(), keyed.CurrentY.get());
-    EXPECT_EQ(whole.TextWidth(left), keyed.TextWidth(left, run));
-    EXPECT_EQ(whole.TextHeight(left), keyed.TextHeight(left, run));
+    EXPECT_EQ(at(whole), at(keyed));
+    EXPECT_EQ(std::pair(whole.TextWidth(left), whole.TextHeight(left)),
+              std::pair(keyed.TextWidth(left, run), keyed.TextHeight(left, run)));
     EXPECT_LE(keyed.charactersDrawn(), 80u);  // a box's width of characters, not the line
   }
 }
