@@ -41,8 +41,8 @@ TEST_F(ModeEntry, PixelModesPaintOnACopyOfTheCanvas) {
     EXPECT_EQ(f().mnuOpen.Enabled.get(), e.openOn);
     EXPECT_EQ(f().mnuPaste.Enabled.get(), e.pasteOn);
   }
-  choose(f().mPencil);  // any other mode gives the menu items back
-  EXPECT_TRUE(f().mnuOpen.Enabled && f().mnuPaste.Enabled);
+  choose(f().mPencil);  // any other mode gives the menu items back and hides the surface
+  EXPECT_TRUE(f().mnuOpen.Enabled && f().mnuPaste.Enabled && !f().pPix.Visible);
 }
 
 TEST_F(ModeEntry, GroupsOfTheModesThatUseThem) {
