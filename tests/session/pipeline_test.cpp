@@ -133,7 +133,6 @@ TEST_F(Pipeline, IntervalBarRetunesThePaintTimersUnlessAutoDrawRuns) {
   for (Timer* t : {&f().tAir, &f().tDraw, &f().tGrdTx, &f().tBrushTime, &f().tBrush, &f().tSphere, &f().tPix})
     EXPECT_EQ(t->Interval.get(), 75) << t->Name().toStdString();
   EXPECT_EQ(f().lStats.Caption.get(), "Interval : 75");
-  EXPECT_EQ(f().tPenUp.Interval.get(), 120);  // the width keys keep their own pace
   f().tDraw.Enabled = true;
   f().vInt.Value = 90;
   EXPECT_EQ(f().tAir.Interval.get(), 75);
