@@ -53,6 +53,10 @@ TEST_F(ModeEntry, GroupsOfTheModesThatUseThem) {
   choose(f().mSpir2);  // GeoSpiralz: the full-canvas button instead of the pointer box
   EXPECT_TRUE(f().cCan.Visible && !f().ckHide.Visible);
 
+  for (CheckBox* c : {&f().ckVert, &f().ckHoriz}) c->Value = 0;
+  choose(f().mGpen);  // Mirrors N More: both mirrors on again
+  EXPECT_TRUE(f().ckVert.Value == 1 && f().ckHoriz.Value == 1);
+
   choose(f().mtCvShapes);  // Canvas Gradients: direction buttons, no stepping colours
   EXPECT_TRUE(f().opVert(0).Visible && !f().vColmode.Visible);
 

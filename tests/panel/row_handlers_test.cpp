@@ -97,7 +97,8 @@ TEST_F(RowHandlers, CrazyPencilMapsTheBarOnlyWhenItMovesAndSkipsEleven) {
 TEST_F(RowHandlers, CheckBoxesWriteTheirWords) {
   struct Case { const char* menu; bool second; const char* on; const char* off; };
   const Case all[] = {
-      {"mSingle", true, "3rd Line", "Two Lines"}, {"mBubble", false, "Bubblez", "Boxes"}, {"mGpen", true, "Freehand", "Linez"}};
+      {"mSingle", true, "3rd Line", "Two Lines"}, {"mBubble", false, "Bubblez", "Boxes"}, {"mGpen", true, "Freehand", "Linez"},
+      {"mBrushes", false, "Draw", "Click"}};
   for (const Case& c : all) {
     SCOPED_TRACE(std::string(c.menu) + (c.second ? " ckVal2" : " ckVal"));
     choose(c.menu);

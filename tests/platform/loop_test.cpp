@@ -48,6 +48,10 @@ TEST_F(LoopTest, TimersFireInDueOrderAtTheirOwnTimes) {
   h.loop.advance(199);
   h.loop.advance(1);
   EXPECT_EQ(log, (Log{{"tFast", 1320}}));
+  h.loop.advance(100);
+  f.tFast.Interval = 200;  // rewritten halfway: the next tick comes 200 ms from the write
+  h.loop.advance(199);
+  EXPECT_EQ(log.size(), 1u);
 }
 
 TEST_F(LoopTest, HandlerThatStopsAndRestartsItsTimerCountsFromThen) {

@@ -88,7 +88,8 @@ TEST_F(TransparencyToolTest, DoneHandsTheLastSelectionAndItsKeyToTheCanvas) {
   EXPECT_FALSE(b().DShp.Visible || b().tSel.Enabled);
   select(5, 4, 25, 14);
   const Colour corner = at(5, 4);
-  b().mDun.raiseClick();  // the windows' swap and the mode: the transparent-painting scenario
+  b().mDun.raiseClick();
+  EXPECT_TRUE(!b().Visible && f().Visible && m().PaintMode == 26);  // back to the canvas, stamping
   EXPECT_EQ(m().TransparentClr, 0xFF0000);
   EXPECT_EQ(f().pT1.Picture.get().size(), QSize(20, 10));
   EXPECT_EQ(GetPixel(f().pT1, 0, 0), corner);
