@@ -84,6 +84,17 @@ TEST_F(ScriptRun, HiddenOrDisabledControlsTakeNoInput) {
   EXPECT_TRUE(clicked);
 }
 
+TEST_F(ScriptRun, KeysGoBackToTheCanvasOnceSaveHidesTheFileWindow) {
+  // The real Save, closed with OK: the next key reaches the main window, where Delete clears.
+  QTemporaryDir dir;
+  f().lDrive.Caption = "/";
+  f().lDir.Caption = dir.path();
+  f().PicPaint.PSet(150, 150, 0xFFFFFF);  // a dot at pixel 10, 10
+  EXPECT_EQ(run("menu mnuSave\ntype frmFile.TxtFile keys\nclick frmFile.cmdOK\nexpect frmFile.Visible 0\n"
+                "key Delete\nexpect pixel PicPaint 10 10 0x000000"), 0) << errors.toStdString();
+  EXPECT_TRUE(QFile::exists(dir.filePath("keys.bmp")));
+}
+
 TEST_F(ScriptRun, AModalWindowTakesTheNextLinesUntilItHides) {
   frmFile& d = session.program().w.file;
   std::int64_t returnedAt = -1;
