@@ -10,6 +10,17 @@
 
 namespace qp {
 
+namespace {
+
+// Copies the pixels of `r` from one 32-bit bitmap into the same place of another, row by row.
+void copyPixels(QImage& dst, const QImage& src, const QRect& r) {
+  const size_t rowBytes = static_cast<size_t>(r.width()) * 4;
+  for (int y = r.top(); y <= r.bottom(); ++y)
+    std::memcpy(dst.scanLine(y) + r.left() * 4, src.constScanLine(y) + r.left() * 4, rowBytes);
+}
+
+}  // namespace
+
 // ---- Image and Picture ----
 
 QImage ImageHandle::get() const { return owner_->image_; }
@@ -163,12 +174,7 @@ void PictureBox::resizeBitmap() {
   QImage next(pw, ph, QImage::Format_RGB32);
   if (next.isNull()) raiseError(RuntimeError::OutOfMemory, "Out of memory");
   next.fill(raster::toPixel(BackColor));
-  if (!image_.isNull()) {
-    const int w = std::min(pw, image_.width());
-    const int h = std::min(ph, image_.height());
-    for (int y = 0; y < h; ++y)
-      std::memcpy(next.scanLine(y), image_.constScanLine(y), static_cast<size_t>(w) * 4);
-  }
+  if (!image_.isNull()) copyPixels(next, image_, next.rect() & image_.rect());
   image_ = std::move(next);
   spare_ = QImage();
   copiedFrom_ = 0;
@@ -190,9 +196,7 @@ void PictureBox::clearTo(Colour c) {
       // The bitmap is the picture plus what was drawn since: putting back only that part keeps a
       // Cls at every key or step (a live sample, typed text) from costing a whole copy.
       const QRect r = drawnSinceCopy_ & image_.rect();
-      const size_t rowBytes = static_cast<size_t>(r.width()) * 4;
-      for (int y = r.top(); y <= r.bottom(); ++y)
-        std::memcpy(image_.scanLine(y) + r.left() * 4, pic.constScanLine(y) + r.left() * 4, rowBytes);
+      copyPixels(image_, pic, r);
       drawnSinceCopy_ = QRect();
       dirty_ |= r;
       return;
@@ -281,9 +285,7 @@ QImage& PictureBox::editBitmap() {
   if (image_.isNull()) raiseError(RuntimeError::InvalidCall, "Invalid procedure call");
   // The one copy after `Picture = Image`: into the recycled buffer when there is one.
   if (!image_.isDetached() && spare_.size() == image_.size()) {
-    const size_t rowBytes = static_cast<size_t>(image_.width()) * 4;
-    for (int y = 0; y < image_.height(); ++y)
-      std::memcpy(spare_.scanLine(y), image_.constScanLine(y), rowBytes);
+    copyPixels(spare_, image_, image_.rect());
     image_ = std::move(spare_);
     spare_ = QImage();
   }
