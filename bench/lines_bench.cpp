@@ -15,35 +15,20 @@
 #include <string>
 #include <vector>
 
+#include "bench/CanvasSession.h"
 #include "bench/Summary.h"
-#include "app/Program.h"
-#include "platform/Headless.h"
 #include "platform/Memory.h"
 #include "tools/Freehand.h"
 
 namespace {
 
-constexpr int kSide = 4096;
-constexpr int kMoves = 1000;
+using qp::bench::kMoves;
+using qp::bench::kSide;
+using qp::bench::zigzagX;
+using qp::bench::zigzagY;
 
-// A zigzag of 100-pixel segments down the left half of the canvas, in twips.
-qp::Single px(int i) { return static_cast<qp::Single>((200 + (i % 2) * 100) * 15); }
-qp::Single py(int i) { return static_cast<qp::Single>((100 + (i % 1000) * 3) * 15); }
-
-struct Session {
-  qp::HeadlessRuntime headless;
-  std::unique_ptr<qp::Program> program;
-  explicit Session(qp::Menu qp::frmCanvas::*mode) {
-    program = std::make_unique<qp::Program>(headless.rt());
-    program->start();
-    (program->f.*mode).raiseClick();
-    program->f.vColmode.Value = 0;
-    program->m.CurrentFile = "bench.bmp";  // a titled canvas keeps its own size
-    program->f.PicPaint.Width = kSide * 15;
-    program->f.PicPaint.Height = kSide * 15;
-    program->f.vPencil.Value = 1;
-  }
-  qp::PictureBox& pic() { return program->f.PicPaint; }
+struct Session : qp::bench::CanvasSession {
+  explicit Session(qp::Menu qp::frmCanvas::*mode) : CanvasSession(mode, 1) {}
 };
 
 // ---- Mirrors N More: the main segment and both mirrors with the centre copy twice ----
@@ -54,11 +39,11 @@ void BM_MirrorMove(benchmark::State& state) {
   auto& pic = s.pic();
   for (auto _ : state) {
     state.PauseTiming();
-    pic.raiseMouseDown(1, 0, px(0), py(0));
+    pic.raiseMouseDown(1, 0, zigzagX(0), zigzagY(0));
     state.ResumeTiming();
-    for (int i = 1; i <= kMoves; ++i) pic.raiseMouseMove(1, 0, px(i), py(i));
+    for (int i = 1; i <= kMoves; ++i) pic.raiseMouseMove(1, 0, zigzagX(i), zigzagY(i));
     state.PauseTiming();
-    pic.raiseMouseUp(1, 0, px(kMoves), py(kMoves));
+    pic.raiseMouseUp(1, 0, zigzagX(kMoves), zigzagY(kMoves));
     state.ResumeTiming();
   }
   state.SetItemsProcessed(state.iterations() * kMoves);
@@ -72,7 +57,7 @@ void BM_RefMirrorLines(benchmark::State& state) {
   const qp::Single W = kSide * 15, H = kSide * 15;
   for (auto _ : state) {
     for (int i = 1; i <= kMoves; ++i) {
-      const qp::Single x0 = px(i - 1), y0 = py(i - 1), x1 = px(i), y1 = py(i);
+      const qp::Single x0 = zigzagX(i - 1), y0 = zigzagY(i - 1), x1 = zigzagX(i), y1 = zigzagY(i);
       pic.Line(x0, y0, x1, y1, 0xFFFFFF);
       pic.Line(W - x0, y0, W - x1, y1, 0xFFFFFF);
       pic.Line(W - x0, H - y0, W - x1, W - y1, 0xFFFFFF);

@@ -11,33 +11,21 @@
 #include <memory>
 #include <string>
 
-#include "app/Program.h"
+#include "bench/CanvasSession.h"
 #include "files/Recovery.h"
-#include "platform/Headless.h"
 #include "platform/Memory.h"
 
 namespace {
 
-constexpr int kSide = 4096;
-constexpr int kMoves = 1000;
+using qp::bench::kMoves;
+using qp::bench::kSide;
+using qp::bench::zigzagX;
+using qp::bench::zigzagY;
 
-qp::Single px(int i) { return static_cast<qp::Single>((200 + (i % 2) * 100) * 15); }
-qp::Single py(int i) { return static_cast<qp::Single>((100 + (i % 1000) * 3) * 15); }
-
-struct Session {
-  qp::HeadlessRuntime headless;
-  std::unique_ptr<qp::Program> program;
+struct Session : qp::bench::CanvasSession {
   QTemporaryDir state;
   std::unique_ptr<qp::RecoveryKeeper> keeper;
-  explicit Session(bool armed) {
-    program = std::make_unique<qp::Program>(headless.rt());
-    program->start();
-    program->f.mPencil.raiseClick();
-    program->f.vColmode.Value = 0;
-    program->m.CurrentFile = "bench.bmp";
-    program->f.PicPaint.Width = kSide * 15;
-    program->f.PicPaint.Height = kSide * 15;
-    program->f.vPencil.Value = 8;
+  explicit Session(bool armed) : CanvasSession(&qp::frmCanvas::mPencil, 8) {
     if (armed) keeper = std::make_unique<qp::RecoveryKeeper>(program->s, state.path(), 3000);
   }
 };
@@ -48,14 +36,14 @@ void strokes(benchmark::State& state, bool armed) {
   auto& pic = s.program->f.PicPaint;
   for (auto _ : state) {
     state.PauseTiming();
-    pic.raiseMouseDown(1, 0, px(0), py(0));
+    pic.raiseMouseDown(1, 0, zigzagX(0), zigzagY(0));
     state.ResumeTiming();
     for (int i = 1; i <= kMoves; ++i) {
-      pic.raiseMouseMove(1, 0, px(i), py(i));
+      pic.raiseMouseMove(1, 0, zigzagX(i), zigzagY(i));
       s.headless.loop.advance(1);
     }
     state.PauseTiming();
-    pic.raiseMouseUp(1, 0, px(kMoves), py(kMoves));
+    pic.raiseMouseUp(1, 0, zigzagX(kMoves), zigzagY(kMoves));
     state.ResumeTiming();
   }
   state.SetItemsProcessed(state.iterations() * kMoves);

@@ -8,34 +8,20 @@
 #include <memory>
 #include <vector>
 
+#include "bench/CanvasSession.h"
 #include "bench/Summary.h"
 #include "core/Undo.h"
-#include "platform/Headless.h"
 #include "platform/Memory.h"
-#include "app/Program.h"
 
 namespace {
 
-constexpr int kSide = 4096;
-constexpr int kMoves = 1000;
+using qp::bench::kMoves;
+using qp::bench::kSide;
+using qp::bench::zigzagX;
+using qp::bench::zigzagY;
 
-// A zigzag of 100-pixel segments down the canvas, in twips.
-qp::Single px(int i) { return static_cast<qp::Single>((200 + (i % 2) * 100) * 15); }
-qp::Single py(int i) { return static_cast<qp::Single>((100 + (i % 1000) * 3) * 15); }
-
-struct Session {
-  qp::HeadlessRuntime headless;
-  std::unique_ptr<qp::Program> program;
-  explicit Session(int width) {
-    program = std::make_unique<qp::Program>(headless.rt());
-    program->start();
-    program->f.mPencil.raiseClick();
-    program->f.vColmode.Value = 0;
-    program->m.CurrentFile = "bench.bmp";  // a titled canvas keeps its own size
-    program->f.PicPaint.Width = kSide * 15;
-    program->f.PicPaint.Height = kSide * 15;
-    program->f.vPencil.Value = width;
-  }
+struct Session : qp::bench::CanvasSession {
+  explicit Session(int width) : CanvasSession(&qp::frmCanvas::mPencil, width) {}
 };
 
 void BM_PencilMove(benchmark::State& state) {
@@ -43,11 +29,11 @@ void BM_PencilMove(benchmark::State& state) {
   auto& pic = s.program->f.PicPaint;
   for (auto _ : state) {
     state.PauseTiming();
-    pic.raiseMouseDown(1, 0, px(0), py(0));  // the press bakes the canvas once per stroke
+    pic.raiseMouseDown(1, 0, zigzagX(0), zigzagY(0));  // the press bakes the canvas once per stroke
     state.ResumeTiming();
-    for (int i = 1; i <= kMoves; ++i) pic.raiseMouseMove(1, 0, px(i), py(i));
+    for (int i = 1; i <= kMoves; ++i) pic.raiseMouseMove(1, 0, zigzagX(i), zigzagY(i));
     state.PauseTiming();
-    pic.raiseMouseUp(1, 0, px(kMoves), py(kMoves));
+    pic.raiseMouseUp(1, 0, zigzagX(kMoves), zigzagY(kMoves));
     state.ResumeTiming();
   }
   state.SetItemsProcessed(state.iterations() * kMoves);
@@ -59,7 +45,8 @@ void BM_BareLines(benchmark::State& state) {
   auto& pic = s.program->f.PicPaint;
   pic.DrawWidth = static_cast<int>(state.range(0));
   for (auto _ : state)
-    for (int i = 1; i <= kMoves; ++i) pic.Line(px(i - 1), py(i - 1), px(i), py(i), 0xFFFFFF);
+    for (int i = 1; i <= kMoves; ++i)
+      pic.Line(zigzagX(i - 1), zigzagY(i - 1), zigzagX(i), zigzagY(i), 0xFFFFFF);
   state.SetItemsProcessed(state.iterations() * kMoves);
 }
 BENCHMARK(BM_BareLines)->Arg(1)->Arg(8)->Arg(40)->Unit(benchmark::kMillisecond);
@@ -68,8 +55,8 @@ void BM_PencilPressRelease(benchmark::State& state) {
   Session s(1);
   auto& pic = s.program->f.PicPaint;
   for (auto _ : state) {
-    pic.raiseMouseDown(1, 0, px(0), py(0));
-    pic.raiseMouseUp(1, 0, px(0), py(0));
+    pic.raiseMouseDown(1, 0, zigzagX(0), zigzagY(0));
+    pic.raiseMouseUp(1, 0, zigzagX(0), zigzagY(0));
   }
 }
 BENCHMARK(BM_PencilPressRelease)->Unit(benchmark::kMillisecond);
@@ -80,7 +67,7 @@ void BM_SnapshotThenLine(benchmark::State& state) {
   auto& pic = s.program->f.PicPaint;
   for (auto _ : state) {
     qp::TakeUndoSnapshot(s.program->s);
-    pic.Line(px(0), py(0), px(1), py(1), 0xFFFFFF);
+    pic.Line(zigzagX(0), zigzagY(0), zigzagX(1), zigzagY(1), 0xFFFFFF);
   }
 }
 BENCHMARK(BM_SnapshotThenLine)->Unit(benchmark::kMillisecond);
