@@ -207,5 +207,23 @@ TEST_F(WidthKeysTest, TheTextBrushGrowsItsFontInstead) {
   }
 }
 
+TEST_F(KeyboardTest, TheSpiralSurfaceRunsTheWidthTimersAndCtrlRightPicksItsColour) {
+  choose(f().mSpr3);  // Freehand Spiralz draws on the pixel surface
+  for (const auto& [code, up] : {std::pair{int(vbKeyLeft), false}, std::pair{int(vbKeyUp), true}}) {
+    int key = code;
+    f().pPix.KeyDown(key, 0);
+    EXPECT_EQ(std::pair(bool(f().tPenUp.Enabled), bool(f().tPenDwn.Enabled)), std::pair(up, !up)) << code;
+    f().pPix.raiseMouseUp(vbRightButton, 0, 10, 10);  // any release stops both
+    EXPECT_FALSE(f().tPenUp.Enabled || f().tPenDwn.Enabled) << code;
+  }
+  f().pPix.PSet(20, 20, 0x00FF00);
+  windowKeyDown(f(), vbKeyControl);
+  f().pPix.raiseMouseUp(vbRightButton, 2, 20, 20);
+  windowKeyUp(f(), vbKeyControl);
+  // The colour is picked up, and the surface is not undone under it.
+  EXPECT_EQ(std::pair(m().ForeClr.value(), f().pPix.Point(20, 20)),
+            std::pair(Colour(0x00FF00), Colour(0x00FF00)));
+}
+
 }  // namespace
 }  // namespace qp::test
